@@ -1,0 +1,287 @@
+#include "recipes/RecipeStore.h"
+
+#include <memory>
+
+#include "core/dates.h"
+#include "core/records.h"
+#include "core/text.h"
+#include "workbench/Workbench.h"
+
+namespace zy {
+
+namespace {
+const char* const kSaveFn = "frmRecipeList!saveCurrentRecipe";
+const char* const kLoadFn = "frmRecipeList!loadRecipe";
+const char* const kDeleteFn = "frmRecipeList!deleteRecipe";
+const char* const kSlotFn = "frmRecipeList!findNextRecipeSlot";
+
+// Opens a record file, reporting a platform failure through the error routine.
+std::unique_ptr<RecordFile> openRecords(Workbench& wb, const char* name, size_t len, const char* fn) {
+  try {
+    return std::make_unique<RecordFile>(wb.folder.dataFile(name), len);
+  } catch (const FileError& e) {
+    wb.errors.reportFileError(e, 0, fn);
+    return nullptr;
+  }
+}
+}  // namespace
+
+int commentCountFor(size_t commentLength) {
+  return static_cast<int>(static_cast<double>(commentLength) / 120.0 + 0.999);
+}
+
+void newRecipeRecord(Workbench& wb) {
+  const Defaults& d = wb.defaults;
+  RecipeRecord r;
+  r.controlStart = kControlStart;
+  r.recipeNo = 0;
+  r.recipeType = d.recipeType;
+  r.unitType = d.unitMeasure;
+  r.itemCount = 0;
+  r.recipeName = "A Beer Recipe";
+  r.boilVolume = d.initialBoil;
+  r.fermentVolume = d.initialFerm;
+  r.volumeUnits = d.volumeUnits;
+  r.boilTime = d.boilTime;
+  r.mashType = 0;
+  r.mashEfficiency = d.mashEff;
+  r.dateCreated = formatDateMDY(wb.clock.today());
+  r.agingCount = 0;
+  r.agingUnits = 0;
+  r.agingTemp = 0;
+  r.controlEnd = kControlEnd;
+  wb.recipe.rec = r;
+  wb.recipe.items = {};
+  wb.recipe.comment.clear();
+}
+
+long findNextRecipeSlot(Workbench& wb) {
+  auto f = openRecords(wb, kRecipeFile, RecipeRecord::kLength, kSlotFn);
+  if (!f) return 0;
+  if (wb.recipeSlotPosition < 1) wb.recipeSlotPosition = 1;
+  std::string buf;
+  long n = wb.recipeSlotPosition;
+  for (; n <= f->count(); ++n) {
+    f->read(n, buf);
+    if (!controlCodesValid(buf)) {
+      wb.recipeSlotPosition = n;
+      wb.errors.reportError(ERR_RECIPE_CODE, n, kSlotFn, f->path());
+      return 0;
+    }
+    if (getI16(buf, 2) == 0) break;
+  }
+  wb.recipeSlotPosition = n;
+  return n;
+}
+
+bool saveCurrentRecipe(Workbench& wb) {
+  CurrentRecipe& cur = wb.recipe;
+  RecipeRecord& rec = cur.rec;
+  const int oldCommentCount = rec.commentCount;
+  const size_t commentLength = cur.comment.size();
+  rec.commentCount = commentCountFor(commentLength);
+  rec.controlStart = kControlStart;
+  rec.controlEnd = kControlEnd;
+  const int no = rec.recipeNo;
+  if (no < 1) {
+    wb.errors.reportError(ERR_SUBSCRIPT, no, kSaveFn, wb.folder.dataFile(kRecipeFile), "Bad record number");
+    return false;
+  }
+  long line = 0;
+  try {
+    {
+      RecordFile f(wb.folder.dataFile(kRecipeFile), RecipeRecord::kLength);
+      // A record number more than one past the end leaves no gap: the file is padded with free slots.
+      std::string freeSlot = RecipeRecord{}.encode();
+      for (long k = f.count() + 1; k < no; ++k) f.write(k, freeSlot);
+      f.write(no, rec.encode());
+      f.flush();
+    }
+    {
+      RecordFile f(wb.folder.dataFile(kRecipeItemsFile), RecipeItemRecord::kLength);
+      const int count = std::max(0, std::min(rec.itemCount, kMaxRecipeItems));
+      int next = 0;
+      std::string buf;
+      const long total = f.count();
+      for (long n = 1; n <= total; ++n) {
+        line = n;
+        f.read(n, buf);
+        int owner = getI16(buf, 2);
+        if (owner != 0 && owner != no) continue;
+        if (next < count) {
+          RecipeItemRecord item = cur.items[next++];
+          item.controlStart = kControlStart;
+          item.controlEnd = kControlEnd;
+          item.recipeNo = no;
+          f.write(n, item.encode());
+        } else if (owner == no) {
+          putI16(buf, 2, 0);
+          f.write(n, buf);
+        }
+      }
+      while (next < count) {
+        RecipeItemRecord item = cur.items[next++];
+        item.controlStart = kControlStart;
+        item.controlEnd = kControlEnd;
+        item.recipeNo = no;
+        line = f.count() + 1;
+        f.write(f.count() + 1, item.encode());
+      }
+      f.flush();
+    }
+    if (!(commentLength == 0 && oldCommentCount == 0)) {
+      RecordFile f(wb.folder.dataFile(kCommentFile), RecipeCommentRecord::kLength);
+      rec.commentCount = 0;
+      size_t pos = 0;
+      std::string buf;
+      const long total = f.count();
+      auto nextPiece = [&]() {
+        RecipeCommentRecord c;
+        c.recipeNo = no;
+        c.commentText = fixedText(cur.comment.substr(pos, kCommentPiece), kCommentPiece);
+        pos += kCommentPiece;
+        ++rec.commentCount;
+        return c.encode();
+      };
+      for (long n = 1; n <= total; ++n) {
+        line = n;
+        f.read(n, buf);
+        int owner = getI16(buf, 2);
+        if (owner != 0 && owner != no) continue;
+        if (pos < commentLength) {
+          f.write(n, nextPiece());
+        } else if (owner == no) {
+          putI16(buf, 2, 0);
+          f.write(n, buf);
+        }
+      }
+      while (pos < commentLength) {
+        line = f.count() + 1;
+        f.write(f.count() + 1, nextPiece());
+      }
+      f.flush();
+    }
+  } catch (const FileError& e) {
+    wb.errors.reportFileError(e, line, kSaveFn);
+    return false;
+  }
+  if (wb.refreshRecipeTree) wb.refreshRecipeTree();
+  return true;
+}
+
+bool loadRecipe(Workbench& wb, long recipeNo) {
+  CurrentRecipe& cur = wb.recipe;
+  std::string buf;
+  {
+    auto f = openRecords(wb, kRecipeFile, RecipeRecord::kLength, kLoadFn);
+    if (!f) return false;
+    if (!f->read(recipeNo, buf) || !controlCodesValid(buf)) {
+      wb.errors.reportError(ERR_RECIPE_CODE, recipeNo, kLoadFn, f->path());
+      return false;
+    }
+    cur.rec = RecipeRecord::decode(buf);
+  }
+  cur.items = {};
+  RecipeRecord& rec = cur.rec;
+  const int wanted = std::max(0, std::min(rec.itemCount, kMaxRecipeItems));
+  int found = 0;
+  {
+    auto f = openRecords(wb, kRecipeItemsFile, RecipeItemRecord::kLength, kLoadFn);
+    if (!f) return false;
+    for (long n = 1; n <= f->count() && found < wanted; ++n) {
+      f->read(n, buf);
+      if (!controlCodesValid(buf)) {
+        wb.errors.reportError(ERR_RECIPE_ITEM_CODE, n, kLoadFn, f->path());
+        return false;
+      }
+      if (getI16(buf, 2) == recipeNo) cur.items[found++] = RecipeItemRecord::decode(buf);
+    }
+  }
+  if (found < rec.itemCount) {
+    wb.prompter.message("Not all the Recipe Items where loaded for this Recipe", "Warning", Icon::Warning);
+    // The count follows the table's read position, one past the last item found.
+    rec.itemCount = std::min(found + 1, kMaxRecipeItems);
+  }
+  cur.comment.clear();
+  {
+    auto f = openRecords(wb, kCommentFile, RecipeCommentRecord::kLength, kLoadFn);
+    if (!f) return false;
+    int pieces = 0;
+    for (long n = 1; n <= f->count() && pieces < rec.commentCount; ++n) {
+      f->read(n, buf);
+      if (!controlCodesValid(buf)) {
+        wb.errors.reportError(ERR_COMMENT_CODE, n, kLoadFn, f->path());
+        cur.comment = rtrim(cur.comment);
+        return false;
+      }
+      if (getI16(buf, 2) == recipeNo) {
+        cur.comment += getText(buf, 4, kCommentPiece);
+        ++pieces;
+      }
+    }
+  }
+  cur.comment = rtrim(cur.comment);
+  return true;
+}
+
+bool deleteRecipe(Workbench& wb, long recipeNo) {
+  std::string buf;
+  long line = recipeNo;
+  try {
+    {
+      RecordFile f(wb.folder.dataFile(kRecipeFile), RecipeRecord::kLength);
+      if (!f.read(recipeNo, buf) || !controlCodesValid(buf)) {
+        wb.errors.reportError(ERR_RECIPE_CODE, recipeNo, kDeleteFn, f.path());
+        return false;
+      }
+      putI16(buf, 2, 0);
+      f.write(recipeNo, buf);
+      f.flush();
+    }
+    struct Owned { const char* name; size_t len; int err; };
+    for (Owned o : {Owned{kRecipeItemsFile, RecipeItemRecord::kLength, ERR_RECIPE_ITEM_CODE},
+                    Owned{kCommentFile, RecipeCommentRecord::kLength, ERR_COMMENT_CODE}}) {
+      RecordFile f(wb.folder.dataFile(o.name), o.len);
+      for (long n = 1; n <= f.count(); ++n) {
+        line = n;
+        f.read(n, buf);
+        if (!controlCodesValid(buf)) {
+          wb.errors.reportError(o.err, n, kDeleteFn, f.path());
+          return false;
+        }
+        if (getI16(buf, 2) == recipeNo) {
+          putI16(buf, 2, 0);
+          f.write(n, buf);
+        }
+      }
+      f.flush();
+    }
+  } catch (const FileError& e) {
+    wb.errors.reportFileError(e, line, kDeleteFn);
+    return false;
+  }
+  return true;
+}
+
+bool scanRecipes(Workbench& wb, const std::function<void(long, const RecipeRecord&)>& visit,
+                 const std::string& functionName) {
+  std::unique_ptr<RecordFile> f;
+  try {
+    f = std::make_unique<RecordFile>(wb.folder.dataFile(kRecipeFile), RecipeRecord::kLength);
+  } catch (const FileError& e) {
+    wb.errors.reportFileError(e, 0, functionName);
+    return false;
+  }
+  std::string buf;
+  for (long n = 1; n <= f->count(); ++n) {
+    f->read(n, buf);
+    if (!controlCodesValid(buf)) {
+      wb.errors.reportError(ERR_RECIPE_CODE, n, functionName, f->path());
+      return false;
+    }
+    if (getI16(buf, 2) > 0) visit(n, RecipeRecord::decode(buf));
+  }
+  return true;
+}
+
+}  // namespace zy

@@ -1,0 +1,44 @@
+#pragma once
+// The recipe store: ZYRecipe.dat, ZYRItems.dat and ZYComment.dat below Data/. The record number
+// in ZYRecipe.dat is a recipe's identity; its items and comment pieces carry that number as their
+// owner. Every operation works on the workbench's current recipe and opens the files for the
+// duration of the call only.
+#include <functional>
+#include <string>
+
+#include "recipes/RecipeRecords.h"
+
+namespace zy {
+
+class Workbench;
+
+// Resets the current recipe to a new recipe: the record filled from the defaults, dated today,
+// recipeNo 0, 13 empty mash steps, no items and an empty comment.
+void newRecipeRecord(Workbench& wb);
+
+// The record number for a new recipe: the first free slot (recipeNo 0) at or after the
+// remembered position, or one past the end of the file. The position stays there.
+// Returns 0 when the search was stopped by a corrupted record.
+long findNextRecipeSlot(Workbench& wb);
+
+// Writes the current recipe at record recipeNo and rewrites its items and comment pieces,
+// reusing free records from the front. False when an error stopped it.
+bool saveCurrentRecipe(Workbench& wb);
+
+// Fills the current recipe from record recipeNo, its items and its comment. False when an error
+// stopped it (the error has been reported).
+bool loadRecipe(Workbench& wb, long recipeNo);
+
+// Frees a recipe's record, items and comment pieces (recipeNo 0). Nothing is removed from a file.
+bool deleteRecipe(Workbench& wb, long recipeNo);
+
+// Reads ZYRecipe.dat from record 1; calls `visit` for each record with recipeNo above 0. A
+// corrupted record raises 32020 through the error routine (in `functionName`) and ends the scan.
+// False when the scan was stopped by an error.
+bool scanRecipes(Workbench& wb, const std::function<void(long recordNo, const RecipeRecord&)>& visit,
+                 const std::string& functionName = "RecipeList!mnuSortBy_Click");
+
+// commentCount of a comment: the integer part of length / 120 + 0.999.
+int commentCountFor(size_t commentLength);
+
+}  // namespace zy

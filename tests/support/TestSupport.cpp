@@ -1,0 +1,97 @@
+#include "support/TestSupport.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "core/dates.h"
+#include "core/text.h"
+
+namespace zy::test {
+
+Answer ScriptedPrompter::message(const std::string& text, const std::string& title, Icon icon, Buttons buttons,
+                                 Answer defaultAnswer) {
+  shown.push_back({text, title, icon, buttons});
+  if (buttons == Buttons::OK) return Answer::OK;
+  if (answers.empty()) return defaultAnswer;
+  Answer a = answers.front();
+  answers.pop_front();
+  return a;
+}
+
+std::optional<std::string> ScriptedPrompter::nextText(const std::string& fallback) {
+  if (texts.empty()) return fallback;
+  auto t = texts.front();
+  texts.pop_front();
+  return t;
+}
+
+std::optional<std::string> ScriptedPrompter::input(const std::string& prompt, const std::string& title,
+                                                   const std::string& initial) {
+  shown.push_back({prompt, title, Icon::None, Buttons::OKCancel});
+  return nextText(initial);
+}
+
+std::optional<std::string> ScriptedPrompter::openFile(const std::string& title, const std::string&,
+                                                      const std::string&) {
+  shown.push_back({"", title, Icon::None, Buttons::OKCancel});
+  if (texts.empty()) return std::nullopt;
+  return nextText("");
+}
+
+std::optional<std::string> ScriptedPrompter::saveFile(const std::string& title, const std::string&,
+                                                      const std::string&) {
+  shown.push_back({"", title, Icon::None, Buttons::OKCancel});
+  if (texts.empty()) return std::nullopt;
+  return nextText("");
+}
+
+std::optional<std::string> ScriptedPrompter::chooseFolder(const std::string& title, const std::string&) {
+  shown.push_back({"", title, Icon::None, Buttons::OKCancel});
+  if (texts.empty()) return std::nullopt;
+  return nextText("");
+}
+
+TempFolder::TempFolder() {
+  std::string base = std::filesystem::temp_directory_path().string() + "/zytest-XXXXXX";
+  std::vector<char> buf(base.begin(), base.end());
+  buf.push_back('\0');
+  char* p = mkdtemp(buf.data());
+  path_ = p ? p : base;
+}
+
+TempFolder::~TempFolder() {
+  std::error_code ec;
+  std::filesystem::remove_all(path_, ec);
+}
+
+Bench::Bench() : clock(serialFromCivil(2026, 11, 22, 10, 30, 0)) {
+  ProgramFolder(dir.path()).ensureFolders();
+  wb = std::make_unique<Workbench>(dir.path(), settings, prompter, clock);
+  wb->errors.setTerminationHook([](int n) { throw Terminated(n); });
+  wb->loadDefaults();
+}
+
+std::string readFile(const std::string& path) {
+  std::ifstream f(path, std::ios::binary);
+  std::stringstream ss;
+  ss << f.rdbuf();
+  return ss.str();
+}
+
+void writeFile(const std::string& path, const std::string& bytes) {
+  std::ofstream f(path, std::ios::binary | std::ios::trunc);
+  f << bytes;
+}
+
+std::vector<std::string> readLines(const std::string& path) {
+  std::vector<std::string> lines = split(readFile(path), '\n');
+  if (!lines.empty() && lines.back().empty()) lines.pop_back();
+  for (auto& l : lines)
+    if (!l.empty() && l.back() == '\r') l.pop_back();
+  return lines;
+}
+
+}  // namespace zy::test

@@ -1,0 +1,74 @@
+#pragma once
+// Helpers shared by the tests: a temporary program folder, a scripted prompter that records
+// every message, and a workbench over both.
+#include <deque>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/ports.h"
+#include "core/settings.h"
+#include "workbench/Workbench.h"
+
+namespace zy::test {
+
+struct ShownMessage {
+  std::string text, title;
+  Icon icon;
+  Buttons buttons;
+};
+
+class ScriptedPrompter : public Prompter {
+ public:
+  Answer message(const std::string& text, const std::string& title, Icon icon, Buttons buttons,
+                 Answer defaultAnswer) override;
+  std::optional<std::string> input(const std::string& prompt, const std::string& title,
+                                   const std::string& initial) override;
+  std::optional<std::string> openFile(const std::string& title, const std::string& filter,
+                                      const std::string& initialPath) override;
+  std::optional<std::string> saveFile(const std::string& title, const std::string& filter,
+                                      const std::string& initialPath) override;
+  std::optional<std::string> chooseFolder(const std::string& title, const std::string& initialPath) override;
+  void beep() override { ++beeps; }
+
+  // Answers given in turn to questions (message boxes with more than an OK button); when none
+  // is left, the default answer.
+  std::deque<Answer> answers;
+  // Texts given in turn to input boxes and file dialogs; an empty optional is a Cancel.
+  std::deque<std::optional<std::string>> texts;
+  std::vector<ShownMessage> shown;
+  int beeps = 0;
+
+ private:
+  std::optional<std::string> nextText(const std::string& fallback);
+};
+
+// A fresh folder below the system's temporary folder, removed with the object.
+class TempFolder {
+ public:
+  TempFolder();
+  ~TempFolder();
+  const std::string& path() const { return path_; }
+  std::string file(const std::string& name) const { return path_ + "/" + name; }
+
+ private:
+  std::string path_;
+};
+
+// A workbench over a temporary program folder (with Data/ and Reference/), a memory settings
+// store, a scripted prompter and a clock fixed at 2026-11-22 10:30:00. Terminating errors
+// throw zy::Terminated.
+struct Bench {
+  Bench();
+  TempFolder dir;
+  MemorySettingsStore settings;
+  ScriptedPrompter prompter;
+  FixedClock clock;
+  std::unique_ptr<Workbench> wb;
+};
+
+std::string readFile(const std::string& path);
+void writeFile(const std::string& path, const std::string& bytes);
+std::vector<std::string> readLines(const std::string& path);
+
+}  // namespace zy::test
