@@ -112,3 +112,11 @@ TEST(SharedHelpers, CsvQuoteAndNumericKey) {
   EXPECT_EQ(numericKey('a', true, &p), 0);
   EXPECT_EQ(p.beeps, 2);
 }
+
+TEST(SharedHelpers, StrictNumberReportsATypeMismatch) {
+  Bench b;
+  EXPECT_EQ(strictNumber(b.wb->errors, " $2.50 ", "frmX!y"), 2.5);
+  EXPECT_TRUE(b.prompter.shown.empty());
+  EXPECT_THROW(strictNumber(b.wb->errors, "2.5 lbs", "frmX!y"), Terminated);
+  EXPECT_EQ(b.prompter.shown[0].text, "Error #13(Type mismatch) in frmX!y at Line 0");
+}
