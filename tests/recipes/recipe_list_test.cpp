@@ -2,6 +2,9 @@
 // the window's procedures and the list in its file form.
 #include <gtest/gtest.h>
 
+#include <map>
+#include <random>
+
 #include "batchlog/BatchLogCount.h"
 #include "core/records.h"
 #include "core/text.h"
@@ -88,6 +91,83 @@ TEST(RecipeList, DoubledNamesAreNumberedByTagWhileTheFileKeepsItsName) {
   EXPECT_EQ(list.selectedKey, "R14");
   EXPECT_TRUE(list.deleteEnabled && list.exportEnabled && list.genHTMLEnabled);
   EXPECT_EQ(list.lblTitle, " Sorted By Name: 14");
+}
+
+TEST(RecipeList, AChainOfNumberedNamesEndsWhenItsNumberOutgrowsSixteenBits) {
+  // Amber, Amber 1 ... Amber 10, Amber 12, 22, 23, 33, 34 ... 99, 100, 102, 1202, 122022: 31 names.
+  Bench b;
+  Workbench& wb = *b.wb;
+  RecipeList& list = wb.recipeList;
+  list.sortMode = SORT_BY_NAME;
+  for (int no = 1; no <= 32; ++no) {
+    wb.recipe.rec = RecipeRecord{};
+    wb.recipe.rec.recipeNo = no;
+    wb.recipe.rec.recipeName = "Amber";
+    EXPECT_EQ(list.addToRecipeList(wb, false), no <= 31) << no;
+  }
+  EXPECT_EQ(list.tree.find("R14")->tag, "Amber 23");
+  EXPECT_EQ(list.tree.find("R15")->tag, "Amber 33");
+  EXPECT_EQ(list.tree.find("R31")->tag, "Amber 122022");
+  EXPECT_EQ(list.tree.find("R32"), nullptr);
+  EXPECT_EQ(list.tree.tag, "31");
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].text, "In AddToRecipeList: Overflow");
+  EXPECT_EQ(b.prompter.shown[0].title, "Error");
+}
+
+TEST(RecipeList, FastDoubledNameCheckGivesTheResultsOfTheFullWalk) {
+  // A reference that walks every node's Tag after each renaming, against the model, over random
+  // adds, deletes and renames of names whose numbering chains run into each other.
+  Bench b;
+  Workbench& wb = *b.wb;
+  RecipeList& list = wb.recipeList;
+  list.sortMode = SORT_BY_STYLE;
+  const std::vector<std::string> pool = {"Amber", "Amber 1", "Amber 9", "Amber 10", "Parent", "Stout 12",
+                                         "Ale 10", "X", "Amber 22"};
+  std::map<std::string, std::string> tagOf;  // key -> Tag, groups included
+  auto walk = [&](std::string name) -> std::optional<std::string> {
+    for (;;) {
+      bool taken = false;
+      for (const auto& kv : tagOf) taken |= kv.second == name;
+      if (!taken) return name;
+      auto next = RecipeList::numberedName(name);
+      if (!next) return std::nullopt;
+      name = *next;
+    }
+  };
+  std::mt19937 rng(99);
+  int no = 0;
+  std::vector<std::string> leaves;
+  for (int step = 0; step < 3000; ++step) {
+    unsigned op = rng() % 10;
+    if (op < 7 || leaves.empty()) {
+      std::string name = pool[rng() % pool.size()];
+      std::string style = "S" + itos(rng() % 3);
+      auto expected = walk(name);
+      wb.recipe.rec = RecipeRecord{};
+      wb.recipe.rec.recipeNo = ++no;
+      wb.recipe.rec.recipeName = name;
+      wb.recipe.rec.beerStyle = style;
+      ASSERT_EQ(list.addToRecipeList(wb, false), expected.has_value()) << step;
+      if (!expected) continue;
+      ASSERT_EQ(wb.recipe.rec.recipeName, *expected) << step;
+      if (!tagOf.count(style)) tagOf[style] = "Parent";
+      tagOf["R" + itos(no)] = *expected;
+      leaves.push_back("R" + itos(no));
+    } else if (op < 9) {
+      size_t i = rng() % leaves.size();
+      ASSERT_TRUE(list.tree.remove(leaves[i]));
+      tagOf.erase(leaves[i]);
+      leaves.erase(leaves.begin() + static_cast<long>(i));
+    } else {
+      // The editor's save may give a leaf a new Tag.
+      size_t i = rng() % leaves.size();
+      std::string t = pool[rng() % pool.size()];
+      list.tree.setTag(leaves[i], t);
+      tagOf[leaves[i]] = t;
+    }
+  }
+  EXPECT_GT(leaves.size(), 100u);
 }
 
 TEST(RecipeList, ANumberedNameStaysWithinTheSixtyCharactersOfTheRecord) {
