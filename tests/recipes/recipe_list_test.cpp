@@ -19,7 +19,7 @@ namespace {
 using test::Bench;
 using test::readFile;
 
-struct Spec {
+struct Stored {
   std::string name;
   std::string style = "";
   int type = 0;
@@ -28,7 +28,7 @@ struct Spec {
 };
 
 // Saves a recipe at record `no` (the store fills a gap with free slots).
-void store(Workbench& wb, int no, const Spec& s) {
+void store(Workbench& wb, int no, const Stored& s) {
   newRecipeRecord(wb);
   RecipeRecord& r = wb.recipe.rec;
   r.recipeNo = no;
