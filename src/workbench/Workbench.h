@@ -10,7 +10,9 @@
 #include "core/paths.h"
 #include "core/ports.h"
 #include "core/settings.h"
+#include "calculators/HopsUtilization.h"
 #include "recipes/RecipeRecords.h"
+#include "styles/StyleTables.h"
 
 namespace zy {
 
@@ -36,6 +38,11 @@ class Workbench {
   long recipeSlotPosition = 1;
   // Called at the end of saveCurrentRecipe, to refresh the recipe tree.
   std::function<void()> refreshRecipeTree;
+
+  // The beer style tables and the style chosen for the open recipe (LoadBeerStyles).
+  StyleTables styles;
+  // The hops utilization curve and its gravity adjustment (LoadHopsUtilization).
+  HopsUtilization hops;
 };
 
 }  // namespace zy
