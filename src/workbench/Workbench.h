@@ -10,8 +10,10 @@
 #include "core/paths.h"
 #include "core/ports.h"
 #include "core/settings.h"
+#include "calculators/HopsUtilization.h"
 #include "recipes/RecipeList.h"
 #include "recipes/RecipeRecords.h"
+#include "styles/StyleTables.h"
 
 namespace zy {
 
@@ -39,6 +41,11 @@ class Workbench {
   std::function<void()> refreshRecipeTree;
   // The recipe list's model: the tree of recipes, its sort mode and currentRecipeKey.
   RecipeList recipeList;
+
+  // The beer style tables and the style chosen for the open recipe (LoadBeerStyles).
+  StyleTables styles;
+  // The hops utilization curve and its gravity adjustment (LoadHopsUtilization).
+  HopsUtilization hops;
 };
 
 }  // namespace zy
