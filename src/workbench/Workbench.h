@@ -11,6 +11,7 @@
 #include "core/ports.h"
 #include "core/settings.h"
 #include "calculators/HopsUtilization.h"
+#include "recipes/RecipeList.h"
 #include "recipes/RecipeRecords.h"
 #include "styles/StyleTables.h"
 
@@ -43,6 +44,8 @@ class Workbench {
   StyleTables styles;
   // The hops utilization curve and its gravity adjustment (LoadHopsUtilization).
   HopsUtilization hops;
+  // The recipe list's model: the tree of recipes, its sort mode and currentRecipeKey.
+  RecipeList recipeList;
 };
 
 }  // namespace zy
