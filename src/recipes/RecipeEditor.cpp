@@ -665,3 +665,68 @@ void RecipeEditor::sortByTimeQuantityAlpha() { sortSections(false); }
 void RecipeEditor::sortAlphabetically() { sortSections(true); }
 
 }  // namespace zy
+
+namespace zy {
+
+// ---- The recipe list's tree ---------------------------------------------------------------------
+
+void RecipeEditor::enterInTree() {
+  RecipeRecord& rec = wb.recipe.rec;
+  rec.recipeName = txtTitle.substr(0, 60);
+  wb.recipeList.addToRecipeList(wb, true);
+  // addToRecipeList may have numbered the name; the title box shows it again.
+  txtTitle = trim(rec.recipeName);
+  titleChanged = false;
+}
+
+void RecipeEditor::updateTreeLeaf() {
+  RecipeList& list = wb.recipeList;
+  // Without a built tree (the command line) there is no leaf to keep.
+  if (list.sortMode < 0) return;
+  RecipeRecord& rec = wb.recipe.rec;
+  // The leaf is found by the recipe's own key: the list's currentRecipeKey follows whatever was
+  // added last, which need not be the recipe in the editor.
+  const std::string key = "R" + itos(rec.recipeNo);
+  if (!list.tree.find(key)) {
+    // A new recipe reaches the tree at its first save.
+    enterInTree();
+    return;
+  }
+  const std::string suffix = list.mnuSortLogCount ? list.logSuffix(wb, rec.recipeNo) : std::string();
+  if (titleChanged) {
+    txtTitle = list.uniqueName(trim(txtTitle));
+    rec.recipeName = txtTitle.substr(0, 60);
+    titleChanged = false;
+  }
+  if (auto text = list.leafText(rec, suffix)) list.tree.setText(key, *text);
+  list.tree.setTag(key, trim(rec.recipeName));
+}
+
+RecipeOpenHooks RecipeEditor::openHooks() {
+  RecipeOpenHooks h;
+  h.isChanged = [this] { return changed_; };
+  h.save = [this] { mnuFileSave_Click(); };
+  h.prepareForLoad = [this] { prepareForLoad(); };
+  h.populate = [this] { populateRecipeForm(); };
+  return h;
+}
+
+void RecipeEditor::prepareForLoad() {
+  // The style filter does not outlive a recipe: every style is offered again.
+  initStyleFilter(wb.styles);
+  const bool was = filling;
+  filling = true;
+  LoadBeerStyles();
+  clearEditFields();
+  filling = was;
+}
+
+bool RecipeEditor::openRecipe(long recipeNo) {
+  prepareForLoad();
+  wb.recipeList.currentRecipeKey = "R" + itos(recipeNo);
+  if (!loadRecipe(wb, recipeNo)) return false;
+  populateRecipeForm();
+  return true;
+}
+
+}  // namespace zy

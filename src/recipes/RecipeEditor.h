@@ -13,12 +13,12 @@
 #include "recipes/FermentationForm.h"
 #include "recipes/IngredientTable.h"
 #include "recipes/RecipeCalculations.h"
+#include "recipes/RecipeList.h"
 #include "styles/StyleMatch.h"
 
 namespace zy {
 
 class Workbench;
-class RecipeList;
 
 // The comment window's fields that travel with the recipe.
 struct CommentFields {
@@ -57,8 +57,14 @@ class RecipeEditor {
 
   explicit RecipeEditor(Workbench& wb);
 
-  // The recipe list whose tree the save keeps up to date (none from the command line).
-  void setRecipeList(RecipeList* list) { list_ = list; }
+  // What the recipe list's open sequence asks of the editor: the changed flag, the save, the
+  // reset before a load (the style filter) and populateRecipeForm.
+  RecipeOpenHooks openHooks();
+  // Before a recipe is loaded: the style filter reset, the style list rebuilt, the strip cleared.
+  void prepareForLoad();
+  // Opens record `recipeNo` as a double click on its leaf does (without the save question):
+  // prepareForLoad, currentRecipeKey, loadRecipe, populateRecipeForm. False when the load failed.
+  bool openRecipe(long recipeNo);
 
   // ---- Setting up and showing a recipe ----------------------------------------------------
 
@@ -144,6 +150,8 @@ class RecipeEditor {
   // After a change of mash type, efficiency or units made elsewhere (the mash window): the mash
   // labels from the record, then all three calculations.
   void mashDataChanged();
+  // After the scaling dialog has rewritten the table: all three calculations, recipe changed.
+  void rescaled() { afterEdit(EditEvent::Structure); }
 
   // ---- State ----------------------------------------------------------------------------------
   Workbench& wb;
@@ -176,13 +184,13 @@ class RecipeEditor {
   void writeCell(int col, const std::string& text);
   void sortSections(bool alphabetical);
   void moveSelected(int delta);
-  // Brings the tree's leaf of the current recipe up to date (the name, the log suffix, the date
-  // prefix), entering the recipe when the tree does not hold it yet.
+  // Brings the tree's leaf of the current recipe up to date (the log suffix, a unique name after
+  // a title change, the text with the date prefix), entering the recipe when the tree does not
+  // hold it yet.
   void updateTreeLeaf();
   // addToRecipeList for the current recipe, the title box then showing the name it got.
   void enterInTree();
 
-  RecipeList* list_ = nullptr;
   bool changed_ = false;
   std::string saveImage_ = "Save";
   std::string saveTip_ = "Save Recipe";
