@@ -96,6 +96,9 @@ class HopsUtilizationEditor {
   bool applyingPreset = false;    // blocks the formula labels while a preset fills the boxes
 
  private:
+  // Rows above `row` that stand higher than it are lowered to its text, rows below that stand
+  // lower are raised to it.
+  void keepMonotonic(int row);
   void fillCurve(const std::array<double, kUtilRows>& curve, int newMode, const char* title);
   void updateFormulaLabels();
   void updateGravityLabels();
