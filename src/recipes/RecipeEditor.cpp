@@ -200,7 +200,9 @@ void RecipeEditor::populateRecipeForm() {
 
 // ---- Saving ---------------------------------------------------------------------------------------
 
-bool RecipeEditor::mnuFileSave_Click() {
+bool RecipeEditor::mnuFileSave_Click() { return save(true); }
+
+bool RecipeEditor::save(bool mayEnterTree) {
   CurrentRecipe& cur = wb.recipe;
   RecipeRecord& rec = cur.rec;
 
@@ -276,7 +278,7 @@ bool RecipeEditor::mnuFileSave_Click() {
   rec.itemCount = n;
 
   // 6. and 7. The tree's leaf: log suffix, unique name, text, order.
-  updateTreeLeaf();
+  updateTreeLeaf(mayEnterTree);
 
   // 8. The files.
   if (!saveCurrentRecipe(wb)) return false;
@@ -302,7 +304,8 @@ bool RecipeEditor::mnuFileSaveAs_Click() {
   // numbered, and the box shows the result.
   rec.recipeName = txtTitle.substr(0, 60);
   enterInTree();
-  return mnuFileSave_Click();
+  // The leaf exists now (or the list has said why not): the save only brings it up to date.
+  return save(false);
 }
 
 bool RecipeEditor::queryClose() {
@@ -673,13 +676,14 @@ namespace zy {
 void RecipeEditor::enterInTree() {
   RecipeRecord& rec = wb.recipe.rec;
   rec.recipeName = txtTitle.substr(0, 60);
-  wb.recipeList.addToRecipeList(wb, true);
+  // Without a built tree (the command line) there is nothing to enter the recipe in.
+  if (wb.recipeList.sortMode >= 0) wb.recipeList.addToRecipeList(wb, true);
   // addToRecipeList may have numbered the name; the title box shows it again.
   txtTitle = trim(rec.recipeName);
   titleChanged = false;
 }
 
-void RecipeEditor::updateTreeLeaf() {
+void RecipeEditor::updateTreeLeaf(bool mayEnter) {
   RecipeList& list = wb.recipeList;
   // Without a built tree (the command line) there is no leaf to keep.
   if (list.sortMode < 0) return;
@@ -689,7 +693,7 @@ void RecipeEditor::updateTreeLeaf() {
   const std::string key = "R" + itos(rec.recipeNo);
   if (!list.tree.find(key)) {
     // A new recipe reaches the tree at its first save.
-    enterInTree();
+    if (mayEnter) enterInTree();
     return;
   }
   const std::string suffix = list.mnuSortLogCount ? list.logSuffix(wb, rec.recipeNo) : std::string();

@@ -187,7 +187,9 @@ class RecipeEditor {
   // Brings the tree's leaf of the current recipe up to date (the log suffix, a unique name after
   // a title change, the text with the date prefix), entering the recipe when the tree does not
   // hold it yet.
-  void updateTreeLeaf();
+  void updateTreeLeaf(bool mayEnter);
+  // The save; `mayEnterTree` lets it enter a recipe the tree lacks.
+  bool save(bool mayEnterTree);
   // addToRecipeList for the current recipe, the title box then showing the name it got.
   void enterInTree();
 
