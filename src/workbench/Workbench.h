@@ -39,13 +39,13 @@ class Workbench {
   long recipeSlotPosition = 1;
   // Called at the end of saveCurrentRecipe, to refresh the recipe tree.
   std::function<void()> refreshRecipeTree;
-  // The recipe list's model: the tree of recipes, its sort mode and currentRecipeKey.
-  RecipeList recipeList;
 
   // The beer style tables and the style chosen for the open recipe (LoadBeerStyles).
   StyleTables styles;
   // The hops utilization curve and its gravity adjustment (LoadHopsUtilization).
   HopsUtilization hops;
+  // The recipe list's model: the tree of recipes, its sort mode and currentRecipeKey.
+  RecipeList recipeList;
 };
 
 }  // namespace zy
