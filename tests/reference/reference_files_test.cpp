@@ -162,7 +162,7 @@ TEST(ReferenceFiles, SourceTextsAreParsedAndConvertedTo8Bit) {
   EXPECT_EQ(r.errors[1], "bad.txt: unknown header line \"colour\"");
 }
 
-TEST(ReferenceFiles, DISABLED_ShippedSourcesBuildCleanly) {
+TEST(ReferenceFiles, ShippedSourcesBuildCleanly) {
   TempFolder dir;
   BuildReport r = buildReferenceFromFolder(std::string(ZY_SOURCE_DIR) + "/data/reference", dir.file("Reference"));
   for (const std::string& e : r.errors) ADD_FAILURE() << e;
