@@ -162,7 +162,11 @@ TEST(UpdateCheck, TheAddressComesFromTheSettingsAndAFutureDateMakesNoRequest) {
   Bench b;
   SocketHttpFetch http(3000);
   b.settings.write("Settings", "Update Address", server.url("/ZYCurrent.ver"));
-  EXPECT_EQ(checkForUpdate(*b.wb, http).outcome, UpdateOutcome::Current);
+  b.wb->defaults.autoUpdate = 0;  // "Automatically Check for Zythara Updates" off: no request at start
+  EXPECT_EQ(startupUpdateCheck(*b.wb, http).outcome, UpdateOutcome::NotDue);
+  EXPECT_EQ(server.requests(), 0);
+  b.wb->defaults.autoUpdate = 1;
+  EXPECT_EQ(startupUpdateCheck(*b.wb, http).outcome, UpdateOutcome::Current);
   EXPECT_EQ(server.requests(), 1);
 
   // Due exactly now is not earlier than now: not due.
