@@ -209,8 +209,11 @@ bool RecipeEditor::save(bool mayEnterTree) {
   // 1. Type, name, style.
   rec.recipeType = cboRecipeType;
   rec.recipeName = txtTitle.substr(0, 60);
+  // A style this program does not know keeps its name: the brewer was told at opening, and a
+  // save must not turn the name into the placeholder.
   const std::string style = cboBeerStyleText;
-  rec.beerStyle = style == kNotSpecifiedStyleEntry ? std::string() : style.substr(0, 60);
+  if (style == kNotSpecifiedStyleEntry) rec.beerStyle.clear();
+  else if (style != kNotRecognizedStyleEntry) rec.beerStyle = style.substr(0, 60);
 
   // 2. Volumes and the computed values, read back from what the editor shows.
   rec.boilVolume = cellValue(sheet.txtInitalBoilVolume);

@@ -524,6 +524,10 @@ TEST(RecipeEditor, StylesKnownUnknownAndChosen) {
   EXPECT_EQ(t.wb.styles.CurrentStyleIndex, -1);
   EXPECT_EQ(t.e.sheet.targets[TARGET_OG].text, "N/A");
   EXPECT_FALSE(t.e.recipeChanged());
+  // Saved unchanged, the unknown name stays in the record.
+  ASSERT_TRUE(t.e.mnuFileSave_Click());
+  ASSERT_TRUE(loadRecipe(t.wb, 1));
+  EXPECT_EQ(trim(t.wb.recipe.rec.beerStyle), "Martian Red Ale");
 
   ASSERT_EQ(t.e.styleList.size(), 3u);
   t.e.chooseStyle(2);
