@@ -1,0 +1,118 @@
+#include <gtest/gtest.h>
+
+#include "cli/CliRunner.h"
+#include "core/text.h"
+
+using namespace zy;
+using namespace zy::test;
+
+namespace {
+// An exchange file as another brewer's program writes it: CRLF line ends, 8-bit text.
+const char* const kPorter =
+    "<Recipe_Format_1.0>\r\n"
+    "<Recipe> Type=\"Ale\", Name=\"Robust Porter\", BoilTime=75, Date=\"Oct-05-1998\", Style=\"Porter\"\r\n"
+    "<Volume> Initial=6.5, Final=5.0, Units=\"US Gallons\"\r\n"
+    "<Color> Value=30, Units=\"Lovi\"\r\n"
+    "<Bitterness> Value=35, Units=\"IBU\"\r\n"
+    "<Gravity> Original=1.060, Final=1.015, Alcohol=5.9\r\n"
+    "<Malt> Type=\"Pale Malt~ 2-Row\", Quantity=9.5, Units=\"Lbs\", Extraction=1.036, Mash=\"Yes\", Color=2\r\n"
+    "<Malt> Type=\"Black Patent\", Quantity=0.5, Units=\"Lbs\", Extraction=1.025, Mash=\"Yes\", Color=500\r\n"
+    "<Hops> Type=\"Fuggle\", Quantity=1.5, Units=\"Oz\", Alpha=4.5, BoilTime=60\r\n"
+    "<Yeast> Type=\"London Ale\", Quantity=1, Units=\"Packet\", Attenuation=73\r\n"
+    "<Mash> Type=\"Infusion\", Efficiency=75, Rate=1.25\r\n"
+    "<Mash> Index=0, Temp=154, Time=60, Comments=\"Stir well\xB8 then rest\"\r\n"
+    "<Sparge> Volume=4.0, Units=\"US Gallons\", Temp=168, Rate=0.50\r\n"
+    "<Fermentation> Primary=7, Units=\"Days\", Temp=66, Vessel=\"Glass\"\r\n"
+    "<Priming> Container=\"Bottles\", Carbonation=\"Priming\", Comments=\"3/4 cup corn sugar\"\r\n"
+    "<Comments_Start>\r\n"
+    "\"A dark, roasty ale.\r\nServe at 55\xB0" "F, say \"\"cellar\"\".\"\r\n"
+    "<Comments_End>\r\n"
+    "<End_Recipe_Format>\r\n";
+
+std::vector<std::string> lines(const std::string& s) {
+  auto v = split(s, '\n');
+  if (!v.empty() && v.back().empty()) v.pop_back();
+  return v;
+}
+}  // namespace
+
+TEST(CliList, ImportNumbersDoubledNamesAndTreeShowsThem) {
+  CliHome h;
+  writeFile(h.dir.file("porter.zyr"), kPorter);
+  CliResult a = h.run({"import", h.dir.file("porter.zyr")});
+  EXPECT_EQ(a.status, 0) << a.err;
+  EXPECT_EQ(a.out, "1\tRobust Porter\n");
+  CliResult b = h.run({"import", h.dir.file("porter.zyr")});
+  EXPECT_EQ(b.status, 0) << b.err;
+  ASSERT_EQ(lines(b.out).size(), 1u);
+  EXPECT_TRUE(startsWith(b.out, "2\t"));
+  const std::string second = lines(b.out)[0].substr(2);
+  EXPECT_NE(second, "Robust Porter");  // the stored name never doubles an existing one
+
+  CliResult t = h.run({"tree"});
+  EXPECT_EQ(t.status, 0);
+  EXPECT_EQ(lines(t.out), (std::vector<std::string>{" Sorted By Name: 2", "  Robust Porter", "  " + second}));
+  CliResult s = h.run({"tree", "--sort", "1"});
+  EXPECT_EQ(lines(s.out), (std::vector<std::string>{" Sorted By Beer Style: 2", "Porter", "  Robust Porter",
+                                                    "  " + second}));
+  CliResult d = h.run({"tree", "--sort", "3"});
+  EXPECT_EQ(lines(d.out)[1], "Year 1998");
+  EXPECT_EQ(lines(d.out)[2], "  1998-10-05 - Robust Porter");
+
+  // What the import stored.
+  CliResult dump = h.run({"dump", "1"});
+  auto has = [&](const std::string& l) { return dump.out.find("\n" + l + "\n") != std::string::npos; };
+  EXPECT_TRUE(has("itemCount=4"));
+  EXPECT_TRUE(has("item[0].itemName=Pale Malt, 2-Row"));
+  EXPECT_TRUE(has("item[1].detail=500"));
+  EXPECT_TRUE(has("item[3].rating=0.73"));
+  EXPECT_TRUE(has("mashType=2"));
+  EXPECT_TRUE(has("mashStepComment[0]=Stir well, then rest"));
+  EXPECT_TRUE(has("fermentVessel[0]=1"));
+  EXPECT_TRUE(has("comment=A dark, roasty ale.\\nServe at 55\xC2\xB0" "F, say \"cellar\"."));
+}
+
+TEST(CliList, ExportWritesTheExchangeFormat) {
+  CliHome h;
+  writeFile(h.dir.file("porter.zyr"), kPorter);
+  ASSERT_EQ(h.run({"import", h.dir.file("porter.zyr")}).status, 0);
+  CliResult e = h.run({"export", "1", h.dir.file("out.zyr")});
+  EXPECT_EQ(e.status, 0) << e.err;
+  const std::string out = readFile(h.dir.file("out.zyr"));
+  EXPECT_TRUE(startsWith(out, "<Recipe_Format_1.0>\r\n<Recipe> Type=\"Ale\", Name=\"Robust Porter\", BoilTime=75, "
+                              "Date=\"Oct-05-1998\", Style=\"Porter\"\r\n"));
+  EXPECT_NE(out.find("<Malt> Type=\"Pale Malt~ 2-Row\", Quantity=9.5, Units=\"Lbs\", Extraction=1.036, "
+                     "Mash=\"Yes\", Color=2\r\n"),
+            std::string::npos);
+  EXPECT_NE(out.find("<Mash> Index=0, Temp=154, Time=60, Comments=\"Stir well\xB8 then rest\"\r\n"),
+            std::string::npos);
+  EXPECT_NE(out.find("\"A dark, roasty ale.\r\nServe at 55\xB0" "F, say \"\"cellar\"\".\"\r\n<Comments_End>\r\n"),
+            std::string::npos);
+  EXPECT_TRUE(out.size() > 20 && out.substr(out.size() - 21) == "<End_Recipe_Format>\r\n");
+  // Exporting a recipe that is not there reports and writes nothing.
+  CliResult bad = h.run({"export", "9", h.dir.file("none.zyr")});
+  EXPECT_NE(bad.status, 0);
+  EXPECT_EQ(h.run({"export", "1"}).status, 2);
+}
+
+TEST(CliList, ListFileOfEveryRecipeAndBadInput) {
+  CliHome h;
+  writeFile(h.dir.file("porter.zyr"), kPorter);
+  ASSERT_EQ(h.run({"import", h.dir.file("porter.zyr")}).status, 0);
+  ASSERT_EQ(h.run({"new", "Amber"}).status, 0);
+  CliResult l = h.run({"list"});
+  EXPECT_EQ(l.status, 0);
+  auto v = lines(l.out);
+  ASSERT_GE(v.size(), 4u);
+  EXPECT_EQ(v[0], "Zythara Recipe List");
+  EXPECT_NE(l.out.find("Robust Porter"), std::string::npos);
+  EXPECT_NE(l.out.find("Amber"), std::string::npos);
+  EXPECT_EQ(h.run({"list", "--sort", "x"}).status, 2);
+  // A file that is not an exchange file is refused; the import goes on as the window's does and
+  // stores the new-recipe default under its own name.
+  writeFile(h.dir.file("junk.zyr"), "hello, world\r\n");
+  CliResult j = h.run({"import", h.dir.file("junk.zyr")});
+  EXPECT_EQ(j.err, "[Zythara 2] Not a Recognized Zythara Recipe File\n");
+  EXPECT_EQ(j.out, "3\tA Beer Recipe\n");
+  EXPECT_EQ(lines(h.run({"scan"}).out).size(), 3u);
+}
