@@ -4,10 +4,11 @@
 #include <QIcon>
 #include <QString>
 
+#include "reference/ReferenceBrowser.h"
+
 namespace zy {
 
-enum class TopicIcon { Photo, Leaf, ClosedBook, OpenBook };
-// The icon by its key: "Photo", "Leaf", "ClosedBook", "OpenBook".
+// The icon of a tree node (TopicIcon of the browser model), or by its key: "Photo", "Leaf", "ClosedBook", "OpenBook".
 QIcon topicIcon(TopicIcon which);
 QIcon topicIcon(const QString& key);
 

@@ -36,6 +36,10 @@ class Workbench {
   long recipeSlotPosition = 1;
   // Called at the end of saveCurrentRecipe, to refresh the recipe tree.
   std::function<void()> refreshRecipeTree;
+
+  // Set when the main window starts to close: a child window's close only hides it (so that it
+  // keeps its state between uses) unless this is set.
+  bool appClosing = false;
 };
 
 }  // namespace zy
