@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "core/dates.h"
+#include "core/numfmt.h"
 #include "core/text.h"
 
 namespace zy {
@@ -124,6 +125,13 @@ void ErrorLog::reportError(int errorNumber, long lineNumber, const std::string& 
   line("Program Continued Execution");
   line("");
   if (log) std::fclose(log);
+}
+
+double strictNumber(ErrorLog& errors, const std::string& text, const std::string& functionName) {
+  auto v = strictValue(text);
+  if (v) return *v;
+  errors.reportError(ERR_TYPE_MISMATCH, 0, functionName, "", "Type mismatch");
+  return 0;
 }
 
 int numericKey(int keyAscii, bool allowMinus, Prompter* beeper) {

@@ -75,6 +75,10 @@ class ErrorLog {
   std::function<void(int)> terminate_;
 };
 
+// Strict reading of a number where a text that is no number is a failure: it is reported as a
+// type mismatch (error 13, which ends the program) in `functionName`.
+double strictNumber(ErrorLog& errors, const std::string& text, const std::string& functionName);
+
 // Key filter of numeric boxes: digits, the point and backspace pass; "-" with allowMinus; any
 // other key becomes 0 (swallowed) and beeps.
 int numericKey(int keyAscii, bool allowMinus, Prompter* beeper = nullptr);

@@ -143,7 +143,7 @@ std::string group(const std::string& intDigits) {
   return out;
 }
 
-std::string formatSection(double magnitude, const Section& sec, bool withSign) {
+std::string formatSection(double magnitude, const Section& sec, bool negative) {
   if (!sec.hasDigits) return sec.prefix + sec.suffix;
   double v = sec.percent ? magnitude * 100.0 : magnitude;
   Decimal d = toDecimal(v, sec.fracMax);
@@ -155,7 +155,7 @@ std::string formatSection(double magnitude, const Section& sec, bool withSign) {
   if (sec.grouping) intDigits = group(intDigits);
   std::string num = intDigits;
   if (sec.hasPoint) num += "." + frac;
-  bool neg = withSign && d.negative && !d.isZero();
+  bool neg = negative && !d.isZero();
   return (neg ? "-" : "") + sec.prefix + num + sec.suffix;
 }
 
@@ -217,7 +217,7 @@ std::string formatNumber(double value, std::string_view pattern) {
     chosen = &secs[2];
   }
   if (chosen != &secs[0] && allBlank(*chosen)) return "";
-  return formatSection(std::fabs(value), parseSection(*chosen), withSign) ;
+  return formatSection(std::fabs(value), parseSection(*chosen), withSign && value < 0);
 }
 
 std::string plainText(double value) {

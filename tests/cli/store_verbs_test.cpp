@@ -1,0 +1,150 @@
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+#include "cli/CliRunner.h"
+#include "core/paths.h"
+#include "core/text.h"
+
+using namespace zy;
+using namespace zy::test;
+
+namespace {
+// Records as another program following the byte layouts would write them.
+std::string le16(int v) { return std::string{static_cast<char>(v & 0xFF), static_cast<char>((v >> 8) & 0xFF)}; }
+std::string le64(double v) {
+  std::string s(8, '\0');
+  std::memcpy(s.data(), &v, 8);
+  return s;
+}
+std::string pad(const std::string& t, size_t n) { return (t + std::string(n, ' ')).substr(0, n); }
+
+std::string recipeBytes(int no, const std::string& name, int items, int comments) {
+  std::string r = le16(200) + le16(no) + le16(1) + le16(0) + le16(items) + pad(name, 60) + pad("Porter", 60) +
+                  le64(3.5) + le64(5.25) + le16(1) + le64(30.5) + le16(28) + le64(1.052) + le64(1.013) + le64(5.1) +
+                  le64(90) + le16(2);
+  for (int i = 0; i < 13; ++i) r += le64(i == 0 ? 152 : 0);
+  for (int i = 0; i < 13; ++i) r += le64(i == 0 ? 60 : 0);
+  for (int i = 0; i < 13; ++i) r += pad(i == 0 ? "Sacch rest" : "", 40);
+  r += le64(1.25) + le64(12.5) + le64(75);
+  for (int i = 0; i < 26; ++i) r += le64(0);
+  r += le16(0) + le64(4) + le16(1) + le64(168) + le64(0.5);
+  r += le64(7) + le64(14) + le64(0) + le16(0) + le16(0) + le16(0) + le64(66) + le64(60) + le64(0);
+  r += le16(0) + le16(1) + le16(0) + le16(comments) + le16(0) + le16(0) + pad("corn sugar", 80) +
+       pad("Oct-05-1998", 11) + pad("P1", 10) + pad("Porter", 35) + le16(0) + le16(-1) + le64(-9999.0) +
+       pad("", 150) + le16(299);
+  return r;
+}
+
+std::string itemBytes(int owner, int kind, const std::string& name, double qty) {
+  return le16(200) + le16(owner) + le16(kind) + pad(name, 50) + le64(qty) + le16(0) + le64(1.5) + le64(1.036) +
+         le64(3) + le16(-1) + pad("", 20) + le16(299);
+}
+
+std::string commentBytes(int owner, const std::string& text) { return le16(200) + le16(owner) + pad(text, 120) + le16(299); }
+}  // namespace
+
+TEST(CliStore, VersionAndDefaults) {
+  CliHome h;
+  CliResult v = h.run({"version"});
+  EXPECT_EQ(v.status, 0);
+  EXPECT_EQ(v.out, versionText() + "\n");
+  CliResult d = h.run({"defaults"});
+  EXPECT_EQ(d.status, 0);
+  auto lines = split(d.out, '\n');
+  ASSERT_EQ(lines.size(), 96u);  // 95 keys and the last line end
+  EXPECT_EQ(lines[0], "User Name=");
+  EXPECT_EQ(lines[5], "Auto Update=1");
+  EXPECT_EQ(lines[21], "Initial Ferm=5");
+  EXPECT_EQ(lines[22], "Malt Name=Malt");
+  EXPECT_EQ(lines[76], "Threshold=0.25");
+  EXPECT_EQ(lines[94], "Extra Text=");
+}
+
+TEST(CliStore, ScanAndDumpFilesOfAnotherWriter) {
+  CliHome h;
+  ASSERT_EQ(recipeBytes(1, "x", 0, 0).size(), 1546u);
+  ASSERT_EQ(itemBytes(1, 0, "x", 1).size(), 114u);
+  std::string freed = recipeBytes(2, "Gone", 0, 0);
+  freed[2] = 0;
+  writeFile(h.data("ZYRecipe.dat"), recipeBytes(1, "Robust Porter", 2, 2) + freed + recipeBytes(3, "M\xE4rzen", 0, 0));
+  writeFile(h.data("ZYRItems.dat"), itemBytes(1, 0, "Pale Malt", 8.5) + itemBytes(3, 0, "Munich", 1) +
+                                        itemBytes(1, 1, "Fuggle", 1.25));
+  writeFile(h.data("ZYComment.dat"),
+            commentBytes(1, std::string(118, 'a') + "\r\n") + commentBytes(0, "old") + commentBytes(1, "end"));
+  CliResult s = h.run({"scan"});
+  EXPECT_EQ(s.status, 0);
+  EXPECT_EQ(s.out, "1\tRobust Porter\n3\tM\xC3\xA4rzen\n");
+
+  CliResult d = h.run({"dump", "1"});
+  EXPECT_EQ(d.status, 0) << d.err;
+  auto lines = split(d.out, '\n');
+  auto has = [&](const std::string& l) { return std::find(lines.begin(), lines.end(), l) != lines.end(); };
+  EXPECT_EQ(lines[0], "controlStart=200");
+  EXPECT_EQ(lines[5], "recipeName=Robust Porter");
+  EXPECT_EQ(lines[6], "beerStyle=Porter");
+  EXPECT_EQ(lines[8], "fermentVolume=5.25");
+  EXPECT_TRUE(has("mashStepTemp[0]=152"));
+  EXPECT_TRUE(has("mashStepComment[0]=Sacch rest"));
+  EXPECT_TRUE(has("mashStepComment[12]="));
+  EXPECT_TRUE(has("agingUnits=-1"));
+  EXPECT_TRUE(has("agingTemp=-9999"));
+  EXPECT_TRUE(has("originalGravity=1.052"));
+  EXPECT_TRUE(has("item[0].itemName=Pale Malt"));
+  EXPECT_TRUE(has("item[1].itemName=Fuggle"));
+  EXPECT_TRUE(has("item[1].mashFlag=-1"));
+  EXPECT_TRUE(has("item[1].rating=1.036"));
+  EXPECT_FALSE(has("item[2].itemName=Munich"));
+  EXPECT_EQ(lines[lines.size() - 2], "comment=" + std::string(118, 'a') + "\\nend");
+  // The fields come in record order.
+  auto pos = [&](const std::string& l) { return std::find(lines.begin(), lines.end(), l) - lines.begin(); };
+  EXPECT_LT(pos("mashStepTemp[0]=152"), pos("mashStepTime[0]=60"));
+  EXPECT_LT(pos("mashEfficiency=75"), pos("mashReservedCode=0"));
+  EXPECT_LT(pos("controlEnd=299"), pos("item[0].controlStart=200"));
+}
+
+TEST(CliStore, NewAndDeleteThenReuse) {
+  CliHome h;
+  CliResult a = h.run({"new", "Amber", "Ale"});
+  EXPECT_EQ(a.status, 0);
+  EXPECT_EQ(a.out, "1\n");
+  EXPECT_EQ(h.run({"new", "Stout"}).out, "2\n");
+  EXPECT_EQ(h.run({"delete", "1"}).status, 0);
+  EXPECT_EQ(h.run({"scan"}).out, "2\tStout\n");
+  // A new run searches from the first record again.
+  EXPECT_EQ(h.run({"new", "K\xC3\xB6lsch"}).out, "1\n");
+  EXPECT_EQ(getText(readFile(h.data("ZYRecipe.dat")), 10, 7), "K\xF6lsch ");
+  CliResult d = h.run({"dump", "1"});
+  EXPECT_NE(d.out.find("dateCreated="), std::string::npos);
+  EXPECT_NE(d.out.find("recipeName=K\xC3\xB6lsch\n"), std::string::npos);
+}
+
+TEST(CliStore, UsageErrorsAndReportedErrors) {
+  CliHome h;
+  EXPECT_EQ(h.run({}).status, 2);
+  EXPECT_EQ(h.run({"frobnicate"}).status, 2);
+  EXPECT_EQ(h.run({"dump"}).status, 2);
+  EXPECT_EQ(h.run({"dump", "x"}).status, 2);
+  EXPECT_EQ(h.run({"delete", "0"}).status, 2);
+  EXPECT_EQ(h.run({"new"}).status, 2);
+  std::string bad = recipeBytes(1, "Broken", 0, 0);
+  bad[0] = 1;
+  writeFile(h.data("ZYRecipe.dat"), recipeBytes(1, "Fine", 0, 0) + bad);
+  CliResult s = h.run({"scan"});
+  EXPECT_EQ(s.status, 1);
+  EXPECT_EQ(s.out, "1\tFine\n");
+  EXPECT_EQ(s.err, "[Error] Corrupted Recipe Record in " + h.data("ZYRecipe.dat") +
+                       " at Line 2, No More Recipes Loaded\n");
+  CliResult d = h.run({"dump", "7"});
+  EXPECT_EQ(d.status, 1);
+  EXPECT_EQ(d.out, "");
+}
+
+TEST(CliStore, ATerminatingErrorEndsWithStatusThree) {
+  CliHome h;
+  writeFile(h.dir.file("settings.ini"), "[Defaults]\nBoil Time=long\n");
+  CliResult r = h.run({"version"});
+  EXPECT_EQ(r.status, 3);
+  EXPECT_EQ(r.err, "[Terminate Program] Error #13(Type mismatch) in frmMain!loadDefaults at Line 0\n");
+  EXPECT_EQ(readLines(h.dir.file("ZYError.log")).back(), "Terminating");
+}

@@ -1,0 +1,218 @@
+#include <gtest/gtest.h>
+
+#include "core/Properties.h"
+#include "core/defaults.h"
+#include "core/errorlog.h"
+#include "core/text.h"
+#include "core/paths.h"
+#include "core/measures.h"
+#include "support/TestSupport.h"
+
+using namespace zy;
+using namespace zy::test;
+
+TEST(Defaults, AnEmptyStoreGivesTheTableValues) {
+  Bench b;
+  const Defaults& d = b.wb->defaults;
+  ASSERT_EQ(defaultKeys().size(), 95u);
+  EXPECT_EQ(defaultKeys().front().key, std::string("User Name"));
+  EXPECT_EQ(defaultKeys().back().key, std::string("Extra Text"));
+  EXPECT_EQ(d.threshold, 0.25);
+  EXPECT_EQ(d.mashEff, 80);
+  EXPECT_EQ(d.otherUnits, 5);
+  EXPECT_EQ(d.yeastAttenuation, 0.72);
+  EXPECT_EQ(d.maltName, std::string("Malt") + std::string(46, ' '));  // text of 50
+  EXPECT_EQ(d.posTitle, "Top    ");
+  EXPECT_EQ(d.userInitials, "   ");
+  EXPECT_EQ(d.hopsBoilIncr, 5);
+  EXPECT_EQ(d.spargeTemp, 170);
+}
+
+TEST(Defaults, TextsAreCutAndThresholdIsAFraction) {
+  Bench b;
+  b.settings.write("Defaults", "User Initials", "ABCDE");
+  b.settings.write("Defaults", "Threshold", "40");
+  b.settings.write("Defaults", "Supply Units", "9");
+  b.wb->loadDefaults();
+  EXPECT_EQ(b.wb->defaults.userInitials, "ABC");
+  EXPECT_EQ(b.wb->defaults.threshold, 0.4);
+  EXPECT_EQ(b.wb->defaults.supplyUnits, 9);
+}
+
+TEST(Defaults, AValueThatIsNoNumberEndsThroughTheErrorRoutine) {
+  Bench b;
+  b.settings.write("Defaults", "Boil Time", "sixty");
+  EXPECT_THROW(b.wb->loadDefaults(), Terminated);
+  EXPECT_EQ(b.prompter.shown.back().title, "Terminate Program");
+  EXPECT_EQ(b.prompter.shown.back().text, "Error #13(Type mismatch) in frmMain!loadDefaults at Line 0");
+}
+
+TEST(Defaults, SaverWritesNinetyTwoKeysInTheirPlainForms) {
+  Bench b;
+  b.settings.values.clear();
+  b.settings.writeCount = 0;
+  b.wb->defaults.threshold = 0.07;
+  b.wb->defaults.userName = fixedText("Ann Brewer", 60);
+  saveDefaults(b.settings, b.wb->defaults);
+  EXPECT_EQ(b.settings.writeCount, 92);
+  EXPECT_EQ(b.settings.read("Defaults", "Threshold", "?"), "7");
+  EXPECT_EQ(b.settings.read("Defaults", "User Name", "?"), "Ann Brewer");
+  EXPECT_EQ(b.settings.read("Defaults", "Initial Ferm", "?"), "5");
+  EXPECT_EQ(b.settings.read("Defaults", "Malt Extraction", "?"), "1.032");
+  EXPECT_EQ(b.settings.read("Defaults", "posDate", "?"), "Bottom");
+  for (const char* never : {"Recipe Type", "Supply Units", "Sparge Temp"})
+    EXPECT_EQ(b.settings.read("Defaults", never, "absent"), "absent") << never;
+}
+
+TEST(SettingsFile, KeepsSectionsAndSurvivesReopening) {
+  TempFolder dir;
+  const std::string path = dir.file("conf/Zythara 2.ini");
+  {
+    FileSettingsStore s(path);
+    s.write("Settings", "MainLeft", "500");
+    s.write("Recipe List", "Sort By", "3");
+    s.write("Defaults", "User Name", "K\xF6lsch Fan");
+    s.write("Defaults", "Extra Text", "two\nlines");
+    s.write("settings", "mainleft", "600");  // keys are matched without regard to case
+  }
+  FileSettingsStore s(path);
+  EXPECT_EQ(s.read("Settings", "MainLeft", ""), "600");
+  EXPECT_EQ(s.read("Recipe List", "Sort By", ""), "3");
+  EXPECT_EQ(s.read("Defaults", "User Name", ""), "K\xF6lsch Fan");
+  EXPECT_EQ(s.read("Defaults", "Extra Text", ""), "two\nlines");
+  EXPECT_EQ(s.read("Defaults", "Missing", "fallback"), "fallback");
+  EXPECT_EQ(readFile(path),
+            "[Settings]\nMainLeft=600\n\n[Recipe List]\nSort By=3\n\n[Defaults]\nUser Name=K\xF6lsch Fan\n"
+            "Extra Text=two\\nlines\n\n");
+}
+
+TEST(Properties, FilledFromTheDefaultsWithTheirFormats) {
+  Bench b;
+  PropertiesModel m;
+  m.fillFromDefaults(b.wb->defaults);
+  EXPECT_EQ(m.text("txtMashEfficiency"), "80");
+  EXPECT_EQ(m.text("txtInitialBoilVolume"), "3.5");
+  EXPECT_EQ(m.text("txtFermentVolume"), "5.0");
+  EXPECT_EQ(m.text("txtMaltDef(0)"), "Malt");
+  EXPECT_EQ(m.text("txtMaltDef(2)"), "$1.00");
+  EXPECT_EQ(m.text("txtMaltDef(3)"), "1.032");
+  EXPECT_EQ(m.text("txtHopsDef(3)"), "5.5");
+  EXPECT_EQ(m.text("txtYeastDef(3)"), "72.");
+  EXPECT_EQ(m.text("txtMashPerLb"), "0.40");
+  EXPECT_EQ(m.text("txtThreshold"), "25");
+  EXPECT_EQ(m.combo("cboOtherUnits"), 5);
+  EXPECT_EQ(m.comboText("cboOtherUnits"), "Tsp");
+  EXPECT_EQ(m.comboText("cboPosition(3)"), "Bottom");
+  EXPECT_EQ(m.comboText("cboFontSize(0)"), "24");
+  EXPECT_EQ(m.check("chkTitleText"), 1);
+  EXPECT_EQ(m.check("chkUnixNames"), 1);
+  EXPECT_FALSE(m.loading);
+}
+
+TEST(Properties, ReformatAndKeyFilter) {
+  PropertiesModel m;
+  m.text("txtMaltDef(2)") = "2.5";
+  m.reformat("txtMaltDef(2)");
+  EXPECT_EQ(m.text("txtMaltDef(2)"), "$2.50");
+  m.text("txtMaltDef(2)") = "$1,234.567";
+  m.reformat("txtMaltDef(2)");
+  EXPECT_EQ(m.text("txtMaltDef(2)"), "$1,234.57");
+  m.text("txtMaltDef(1)") = "3";
+  m.reformat("txtMaltDef(1)");
+  EXPECT_EQ(m.text("txtMaltDef(1)"), "3.0");
+  m.text("txtUserName") = " Ann ";
+  m.reformat("txtUserName");
+  EXPECT_EQ(m.text("txtUserName"), " Ann ");
+  ScriptedPrompter p;
+  EXPECT_EQ(m.filterKey("txtBoilTime", 'x', &p), 0);
+  EXPECT_EQ(m.filterKey("txtBoilTime", '-', &p), 0);
+  EXPECT_EQ(m.filterKey("txtUserName", 'x', &p), 'x');
+  EXPECT_EQ(p.beeps, 2);
+}
+
+TEST(Properties, UnitSystemChangeToMetricResetsWithConvertedValues) {
+  Bench b;
+  PropertiesModel m;
+  m.fillFromDefaults(b.wb->defaults);
+  b.prompter.answers = {Answer::Yes};
+  m.cboUnitType_Click(METRIC_MEASURES, b.prompter);
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].text,
+            "Change the other Measurement Units to match (reset to defaults for the units selected)?");
+  EXPECT_EQ(b.prompter.shown[0].title, "Change Units");
+  EXPECT_EQ(b.prompter.shown[0].buttons, Buttons::YesNo);
+  EXPECT_EQ(m.combo("cboVolumeUnits"), LITER_CONST);
+  EXPECT_EQ(m.combo("cboMaltUnits"), UNIT_KG);
+  EXPECT_EQ(m.combo("cboHopsUnits"), UNIT_GR);
+  EXPECT_EQ(m.combo("cboSpargeUnits"), LITER_CONST);
+  EXPECT_EQ(m.text("txtInitialBoilVolume"), "14.0");
+  EXPECT_EQ(m.text("txtFermentVolume"), "20.0");
+  EXPECT_EQ(m.text("txtMaltDef(1)"), "0.45");
+  EXPECT_EQ(m.text("txtMaltDef(2)"), "$2.20");
+  EXPECT_EQ(m.text("txtHopsDef(1)"), "28.35");
+  EXPECT_EQ(m.text("txtHopsDef(2)"), "$0.04");
+  EXPECT_EQ(m.text("txtMaltIncr(0)"), "0.09");
+  EXPECT_EQ(m.text("txtHopsIncr(0)"), "5.67");
+  EXPECT_EQ(m.text("txtMaltIncr(1)"), "$0.11");
+
+  // Answering No changes only the unit system.
+  b.prompter.answers = {Answer::No};
+  m.cboUnitType_Click(IMPERIAL_MEASURES, b.prompter);
+  EXPECT_EQ(m.combo("cboUnitType"), IMPERIAL_MEASURES);
+  EXPECT_EQ(m.combo("cboVolumeUnits"), LITER_CONST);
+  b.prompter.answers = {Answer::Yes};
+  m.cboUnitType_Click(IMPERIAL_MEASURES, b.prompter);
+  EXPECT_EQ(m.combo("cboVolumeUnits"), IMPERIAL_GAL_CONST);
+  EXPECT_EQ(m.text("txtMaltDef(1)"), "1.0");
+  EXPECT_EQ(m.text("txtFermentVolume"), "5.0");
+
+  // While the window loads no question is asked.
+  m.loading = true;
+  m.cboUnitType_Click(US_MEASURES, b.prompter);
+  EXPECT_EQ(b.prompter.shown.size(), 3u);
+}
+
+TEST(Properties, ResetWaterAndApply) {
+  Bench b;
+  PropertiesModel m;
+  m.fillFromDefaults(b.wb->defaults);
+  m.text("txtEvaporationRate") = "9";
+  m.text("txtKettleCapacity") = "7.5";
+  m.check("chkFullBoil") = 1;
+  m.cmdResetWater();
+  EXPECT_EQ(m.text("txtEvaporationRate"), "15");
+  EXPECT_EQ(m.text("txtKettleCapacity"), "5.00");
+  EXPECT_EQ(m.check("chkFullBoil"), 0);
+
+  m.text("txtUserName") = "Ann";
+  m.text("txtYeastDef(3)") = "75";
+  m.text("txtThreshold") = "30";
+  m.combo("cboSupplyUnits") = 7;
+  m.combo("cboRecipeType") = 3;  // has no effect
+  m.text("txtHopsDef(2)") = "$1.10";
+  b.settings.writeCount = 0;
+  ASSERT_TRUE(m.cmdApply(b.wb->defaults, b.settings, b.wb->errors));
+  EXPECT_EQ(b.settings.writeCount, 92);
+  EXPECT_EQ(b.wb->defaults.yeastAttenuation, 0.75);
+  EXPECT_EQ(b.wb->defaults.threshold, 0.3);
+  EXPECT_EQ(b.wb->defaults.supplyUnits, 7);
+  EXPECT_EQ(b.wb->defaults.recipeType, 0);
+  EXPECT_EQ(b.wb->defaults.hopsCost, 1.1);
+  EXPECT_EQ(trim(b.wb->defaults.userName), "Ann");
+  EXPECT_EQ(b.settings.read("Defaults", "Yeast Attenuation", ""), "0.75");
+  EXPECT_EQ(b.settings.read("Defaults", "Threshold", ""), "30");
+  // The supply unit is applied but never saved: the next start has the old one.
+  b.wb->loadDefaults();
+  EXPECT_EQ(b.wb->defaults.supplyUnits, 4);
+  EXPECT_EQ(b.wb->defaults.yeastAttenuation, 0.75);
+}
+
+TEST(Properties, QuillmarkPathIsFoundInTheProgramsFolder) {
+  TempFolder dir;
+  makeFolders(dir.file("Quilmk"));
+  writeFile(dir.file("Quilmk/Quilmk"), "x");
+  PropertiesModel m;
+  m.check("chkActivateQuillmark") = 1;
+  m.chkActivateQuillmark_Click(dir.path());
+  EXPECT_EQ(m.text("txtQuillmarkPath"), dir.file("Quilmk/Quilmk"));
+}

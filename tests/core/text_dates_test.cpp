@@ -1,0 +1,46 @@
+#include <gtest/gtest.h>
+
+#include "core/dates.h"
+#include "core/text.h"
+
+TEST(Text, TrimAndFixedFields) {
+  EXPECT_EQ(zy::trim("  Pale Ale  "), "Pale Ale");
+  EXPECT_EQ(zy::trim("\tx\t"), "\tx\t");  // only blanks, as fixed fields are padded
+  EXPECT_EQ(zy::trimWhite("\t x \r\n"), "x");
+  EXPECT_EQ(zy::fixedText("abc", 5), "abc  ");
+  EXPECT_EQ(zy::fixedText("abcdef", 3), "abc");
+}
+
+TEST(Text, Windows1252RoundTrip) {
+  const std::string k8 = "K\xF6lsch M\xE4rzen 10\xB0 \x80 \xB8";
+  const std::string u = zy::cp1252ToUtf8(k8);
+  EXPECT_EQ(u, "K\u00f6lsch M\u00e4rzen 10\u00b0 \u20ac \u00b8");
+  EXPECT_EQ(zy::utf8ToCp1252(u), k8);
+  EXPECT_EQ(zy::utf8ToCp1252("\u4e2d"), "?");  // no 8-bit form
+  EXPECT_EQ(zy::utf8ToCp1252("a\xff" "b"), "a?b");  // not UTF-8
+  EXPECT_EQ(zy::lower("K\xD6LSCH"), "k\xF6lsch");
+}
+
+TEST(Dates, SerialsAndFormats) {
+  EXPECT_EQ(zy::serialFromCivil(1899, 12, 30), 0);
+  EXPECT_EQ(zy::serialFromCivil(1900, 1, 1), 2);
+  EXPECT_EQ(zy::serialFromCivil(1998, 10, 5), 36073);
+  const double d = zy::serialFromCivil(1998, 10, 5);
+  EXPECT_EQ(zy::formatDateMDY(d), "Oct-05-1998");
+  EXPECT_EQ(zy::formatDate(d, "yyyy-mm-dd - "), "1998-10-05 - ");
+  EXPECT_EQ(zy::formatDateTime(zy::serialFromCivil(2026, 11, 22, 15, 4, 5)), "11/22/2026 3:04:05 PM");
+  EXPECT_EQ(zy::formatDateTime(zy::serialFromCivil(2026, 1, 2, 0, 30, 0)), "1/2/2026 12:30:00 AM");
+}
+
+TEST(Dates, ReadingAcceptsTheUsualForms) {
+  const double d = zy::serialFromCivil(1998, 10, 5);
+  for (const char* t : {"Oct-05-1998", "10/5/1998", "10-05-1998", "October 5, 1998", "5 Oct 1998", "1998-10-05",
+                        "oct-5-98", " Oct-05-1998 "})
+    EXPECT_EQ(zy::parseDate(t).value_or(-1), d) << t;
+  EXPECT_EQ(zy::parseDate("1/1/2007").value(), zy::serialFromCivil(2007, 1, 1));
+  EXPECT_EQ(zy::parseDate("1/1/07").value(), zy::serialFromCivil(2007, 1, 1));
+  EXPECT_EQ(zy::parseDate("1/1/45").value(), zy::serialFromCivil(1945, 1, 1));
+  EXPECT_NEAR(zy::parseDate("11/22/2026 3:04:05 PM").value(), zy::serialFromCivil(2026, 11, 22, 15, 4, 5), 1e-9);
+  for (const char* t : {"", "yesterday", "13/1/2000", "2/30/2001", "Foo-05-1998", "1998", "1/2/3/4"})
+    EXPECT_FALSE(zy::parseDate(t)) << t;
+}

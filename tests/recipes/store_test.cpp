@@ -1,0 +1,452 @@
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+#include "core/dates.h"
+#include "core/records.h"
+#include "core/text.h"
+#include "recipes/RecipeStore.h"
+#include "support/TestSupport.h"
+
+using namespace zy;
+using namespace zy::test;
+
+namespace {
+// Little-endian bytes written by hand, independent of the record code.
+struct Bytes {
+  std::string b;
+  explicit Bytes(size_t n) : b(n, '\0') {}
+  void i16(size_t off, int v) {
+    b[off] = static_cast<char>(v & 0xFF);
+    b[off + 1] = static_cast<char>((v >> 8) & 0xFF);
+  }
+  void f64(size_t off, double v) {
+    uint64_t u;
+    std::memcpy(&u, &v, 8);
+    for (int i = 0; i < 8; ++i) b[off + i] = static_cast<char>((u >> (8 * i)) & 0xFF);
+  }
+  void text(size_t off, size_t len, const std::string& s) {
+    for (size_t i = 0; i < len; ++i) b[off + i] = i < s.size() ? s[i] : ' ';
+  }
+};
+
+RecipeItemRecord item(int kind, const std::string& name, double qty) {
+  RecipeItemRecord it;
+  it.itemKind = kind;
+  it.itemName = name;
+  it.quantity = qty;
+  return it;
+}
+
+long recordCount(const std::string& path, size_t len) { return static_cast<long>(readFile(path).size() / len); }
+
+int ownerOf(const std::string& path, size_t len, long n) {
+  std::string all = readFile(path);
+  return getI16(std::string_view(all).substr((n - 1) * len, len), 2);
+}
+}  // namespace
+
+TEST(RecipeRecords, ItemAndCommentBytesAtTheirOffsets) {
+  RecipeItemRecord it;
+  it.recipeNo = 12;
+  it.itemKind = 1;
+  it.itemName = "Cascade";
+  it.quantity = 1.5;
+  it.quantityUnits = 1;
+  it.unitCost = 1.25;
+  it.rating = 5.5;
+  it.detail = 60;
+  it.mashFlag = 0;
+  Bytes e(114);
+  e.i16(0, 200);
+  e.i16(2, 12);
+  e.i16(4, 1);
+  e.text(6, 50, "Cascade");
+  e.f64(56, 1.5);
+  e.i16(64, 1);
+  e.f64(66, 1.25);
+  e.f64(74, 5.5);
+  e.f64(82, 60);
+  e.i16(90, 0);
+  e.text(92, 20, "");
+  e.i16(112, 299);
+  EXPECT_EQ(it.encode(), e.b);
+  RecipeItemRecord back = RecipeItemRecord::decode(e.b);
+  EXPECT_EQ(back.itemName, fixedText("Cascade", 50));
+  EXPECT_EQ(back.unitCost, 1.25);
+  EXPECT_EQ(back.controlEnd, 299);
+
+  RecipeCommentRecord c;
+  c.recipeNo = 3;
+  c.commentText = "Dry hop \xB8 days";
+  Bytes ce(126);
+  ce.i16(0, 200);
+  ce.i16(2, 3);
+  ce.text(4, 120, "Dry hop \xB8 days");
+  ce.i16(124, 299);
+  EXPECT_EQ(c.encode(), ce.b);
+  EXPECT_EQ(RecipeCommentRecord::decode(ce.b).recipeNo, 3);
+}
+
+TEST(RecipeRecords, RecipeBytesAtTheirOffsets) {
+  RecipeRecord r;
+  r.recipeNo = 4;
+  r.recipeType = 1;
+  r.unitType = 2;
+  r.itemCount = 3;
+  r.recipeName = "Amber";
+  r.beerStyle = "K\xF6lsch";
+  r.boilVolume = 3.5;
+  r.fermentVolume = 5;
+  r.volumeUnits = 1;
+  r.color = 12.25;
+  r.bitterness = 33;
+  r.originalGravity = 1.05;
+  r.finalGravity = 1.012;
+  r.alcohol = 4.9;
+  r.boilTime = 60;
+  r.mashType = 3;
+  r.mashStepTemp[0] = 122;
+  r.mashStepTemp[12] = 170;
+  r.mashStepTime[0] = 30;
+  r.mashStepTime[12] = 10;
+  r.mashStepComment[0] = "Protein rest";
+  r.mashStepComment[12] = "Mash out";
+  r.mashWaterRate = 1.25;
+  r.mashWaterVolume = 10;
+  r.mashEfficiency = 75;
+  r.spargeVolume = 4.5;
+  r.spargeVolumeUnits = 6;
+  r.spargeTemp = 168;
+  r.spargeRate = 0.5;
+  r.fermentTime = {7, 2, 0};
+  r.fermentTimeUnits = {0, 1, 2};
+  r.fermentTemp = {65, 60, 0};
+  r.fermentVessel = {0, 1, 2};
+  r.commentCount = 2;
+  r.container = 2;
+  r.carbonation = 1;
+  r.primingComment = "3/4 cup corn sugar";
+  r.dateCreated = "Oct-05-1998";
+  r.idCode = "AM-1";
+  r.labelName = "Amber Label";
+  r.agingCount = 3;
+  r.agingUnits = 1;
+  r.agingTemp = -9999.0;
+  Bytes e(1546);
+  e.i16(0, 200);
+  e.i16(2, 4);
+  e.i16(4, 1);
+  e.i16(6, 2);
+  e.i16(8, 3);
+  e.text(10, 60, "Amber");
+  e.text(70, 60, "K\xF6lsch");
+  e.f64(130, 3.5);
+  e.f64(138, 5);
+  e.i16(146, 1);
+  e.f64(148, 12.25);
+  e.i16(156, 33);
+  e.f64(158, 1.05);
+  e.f64(166, 1.012);
+  e.f64(174, 4.9);
+  e.f64(182, 60);
+  e.i16(190, 3);
+  e.f64(192, 122);
+  e.f64(192 + 96, 170);
+  e.f64(296, 30);
+  e.f64(296 + 96, 10);
+  for (int i = 0; i < 13; ++i) e.text(400 + 40 * i, 40, i == 0 ? "Protein rest" : i == 12 ? "Mash out" : "");
+  e.f64(920, 1.25);
+  e.f64(928, 10);
+  e.f64(936, 75);
+  e.i16(1152, 0);
+  e.f64(1154, 4.5);
+  e.i16(1162, 6);
+  e.f64(1164, 168);
+  e.f64(1172, 0.5);
+  e.f64(1180, 7);
+  e.f64(1188, 2);
+  e.i16(1204, 0);
+  e.i16(1206, 1);
+  e.i16(1208, 2);
+  e.f64(1210, 65);
+  e.f64(1218, 60);
+  e.i16(1234, 0);
+  e.i16(1236, 1);
+  e.i16(1238, 2);
+  e.i16(1240, 2);
+  e.i16(1242, 2);
+  e.i16(1244, 1);
+  e.text(1246, 80, "3/4 cup corn sugar");
+  e.text(1326, 11, "Oct-05-1998");
+  e.text(1337, 10, "AM-1");
+  e.text(1347, 35, "Amber Label");
+  e.i16(1382, 3);
+  e.i16(1384, 1);
+  e.f64(1386, -9999.0);
+  e.text(1394, 150, "");
+  e.i16(1544, 299);
+  const std::string got = r.encode();
+  ASSERT_EQ(got.size(), 1546u);
+  for (size_t i = 0; i < got.size(); ++i)
+    ASSERT_EQ(static_cast<unsigned char>(got[i]), static_cast<unsigned char>(e.b[i])) << "byte " << i;
+  RecipeRecord back = RecipeRecord::decode(e.b);
+  EXPECT_EQ(back.encode(), e.b);
+  EXPECT_EQ(back.mashStepComment[12], fixedText("Mash out", 40));
+  EXPECT_EQ(back.fermentVessel[2], 2);
+}
+
+TEST(RecipeStore, NewRecipeRecordHoldsTheDefaults) {
+  Bench b;
+  b.wb->recipe.comment = "old";
+  b.wb->recipe.rec.recipeNo = 9;
+  newRecipeRecord(*b.wb);
+  const RecipeRecord& r = b.wb->recipe.rec;
+  EXPECT_EQ(r.recipeNo, 0);
+  EXPECT_EQ(r.recipeName, "A Beer Recipe");
+  EXPECT_EQ(r.dateCreated, "Nov-22-2026");
+  EXPECT_EQ(r.boilVolume, 3.5);
+  EXPECT_EQ(r.fermentVolume, 5.0);
+  EXPECT_EQ(r.volumeUnits, 1);
+  EXPECT_EQ(r.boilTime, 60);
+  EXPECT_EQ(r.mashEfficiency, 80);
+  EXPECT_EQ(r.agingTemp, 0);
+  EXPECT_EQ(r.agingUnits, 0);
+  EXPECT_EQ(r.mashStepTime[12], 0);
+  EXPECT_EQ(trim(r.mashStepComment[5]), "");
+  EXPECT_EQ(b.wb->recipe.comment, "");
+}
+
+TEST(RecipeStore, SlotsAreReusedFromTheRememberedPosition) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  auto add = [&](const char* name) {
+    newRecipeRecord(wb);
+    long slot = findNextRecipeSlot(wb);
+    wb.recipe.rec.recipeNo = static_cast<int>(slot);
+    wb.recipe.rec.recipeName = name;
+    EXPECT_TRUE(saveCurrentRecipe(wb));
+    return slot;
+  };
+  EXPECT_EQ(add("One"), 1);
+  EXPECT_EQ(add("Two"), 2);
+  EXPECT_EQ(add("Three"), 3);
+  EXPECT_EQ(add("Four"), 4);
+  EXPECT_TRUE(deleteRecipe(wb, 1));
+  EXPECT_TRUE(deleteRecipe(wb, 3));
+  // The search resumes at 4: slot 1 and 3 lie behind it... 3 does not: it is before 4.
+  EXPECT_EQ(findNextRecipeSlot(wb), 5);
+  EXPECT_EQ(recordCount(b.dir.file("Data/ZYRecipe.dat"), 1546), 4);
+  // A fresh start searches from 1 again.
+  wb.recipeSlotPosition = 1;
+  EXPECT_EQ(add("Five"), 1);
+  EXPECT_EQ(add("Six"), 3);
+  EXPECT_EQ(add("Seven"), 5);
+  std::vector<std::string> names;
+  scanRecipes(wb, [&](long, const RecipeRecord& r) { names.push_back(trim(r.recipeName)); });
+  EXPECT_EQ(names, (std::vector<std::string>{"Five", "Two", "Six", "Four", "Seven"}));
+}
+
+TEST(RecipeStore, ItemsAndCommentsAreRewrittenAndFreed) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  const std::string items = b.dir.file("Data/ZYRItems.dat");
+  const std::string comments = b.dir.file("Data/ZYComment.dat");
+  // Recipe 1 with three items and a 121-character comment.
+  newRecipeRecord(wb);
+  wb.recipe.rec.recipeNo = static_cast<int>(findNextRecipeSlot(wb));
+  wb.recipe.rec.itemCount = 3;
+  wb.recipe.items[0] = item(0, "Pale", 8);
+  wb.recipe.items[1] = item(1, "Cascade", 1);
+  wb.recipe.items[2] = item(3, "Ale Yeast", 1);
+  wb.recipe.comment = std::string(120, 'a') + "b";
+  ASSERT_TRUE(saveCurrentRecipe(wb));
+  EXPECT_EQ(wb.recipe.rec.commentCount, 2);
+  // Recipe 2 with one item after them.
+  newRecipeRecord(wb);
+  wb.recipe.rec.recipeNo = static_cast<int>(findNextRecipeSlot(wb));
+  EXPECT_EQ(wb.recipe.rec.recipeNo, 2);
+  wb.recipe.rec.itemCount = 1;
+  wb.recipe.items[0] = item(0, "Munich", 2);
+  ASSERT_TRUE(saveCurrentRecipe(wb));
+  EXPECT_EQ(recordCount(items, 114), 4);
+  EXPECT_EQ(recordCount(comments, 126), 2);
+
+  // Recipe 1 saved again, shorter: one item and a 120-character comment.
+  ASSERT_TRUE(loadRecipe(wb, 1));
+  EXPECT_EQ(wb.recipe.rec.itemCount, 3);
+  EXPECT_EQ(trim(wb.recipe.items[1].itemName), "Cascade");
+  EXPECT_EQ(wb.recipe.comment, std::string(120, 'a') + "b");
+  wb.recipe.rec.itemCount = 1;
+  wb.recipe.comment = std::string(120, 'c');
+  ASSERT_TRUE(saveCurrentRecipe(wb));
+  EXPECT_EQ(wb.recipe.rec.commentCount, 1);
+  EXPECT_EQ(ownerOf(items, 114, 1), 1);
+  EXPECT_EQ(ownerOf(items, 114, 2), 0);
+  EXPECT_EQ(ownerOf(items, 114, 3), 0);
+  EXPECT_EQ(ownerOf(items, 114, 4), 2);
+  EXPECT_EQ(ownerOf(comments, 126, 2), 0);
+
+  // Recipe 2 grows to three items: the freed records 2 and 3 are reused, nothing appended.
+  ASSERT_TRUE(loadRecipe(wb, 2));
+  wb.recipe.rec.itemCount = 3;
+  wb.recipe.items[1] = item(0, "Crystal", 1);
+  wb.recipe.items[2] = item(1, "Fuggle", 1);
+  ASSERT_TRUE(saveCurrentRecipe(wb));
+  EXPECT_EQ(recordCount(items, 114), 4);
+  EXPECT_EQ(ownerOf(items, 114, 2), 2);
+  ASSERT_TRUE(loadRecipe(wb, 2));
+  // The items go to the eligible records from the front in table order, and come back so.
+  EXPECT_EQ(trim(wb.recipe.items[0].itemName), "Munich");
+  EXPECT_EQ(trim(wb.recipe.items[1].itemName), "Crystal");
+  EXPECT_EQ(trim(wb.recipe.items[2].itemName), "Fuggle");
+  EXPECT_EQ(getText(readFile(items).substr(3 * 114, 114), 6, 6), "Fuggle");
+
+  // An empty comment with none before leaves the comment file alone.
+  const std::string before = readFile(comments);
+  EXPECT_TRUE(saveCurrentRecipe(wb));
+  EXPECT_EQ(readFile(comments), before);
+  // Emptying recipe 1's comment frees its record.
+  ASSERT_TRUE(loadRecipe(wb, 1));
+  EXPECT_EQ(wb.recipe.comment, std::string(120, 'c'));
+  wb.recipe.comment.clear();
+  ASSERT_TRUE(saveCurrentRecipe(wb));
+  EXPECT_EQ(wb.recipe.rec.commentCount, 0);
+  EXPECT_EQ(ownerOf(comments, 126, 1), 0);
+}
+
+TEST(RecipeStore, CommentCounts) {
+  EXPECT_EQ(commentCountFor(0), 0);
+  EXPECT_EQ(commentCountFor(1), 1);
+  EXPECT_EQ(commentCountFor(120), 1);
+  EXPECT_EQ(commentCountFor(121), 2);
+  EXPECT_EQ(commentCountFor(240), 2);
+}
+
+TEST(RecipeStore, TwentyFiveItemsFillTwentyFiveRecords) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  newRecipeRecord(wb);
+  wb.recipe.rec.recipeNo = 1;
+  wb.recipe.rec.itemCount = 25;
+  for (int i = 0; i < 25; ++i) wb.recipe.items[i] = item(i % 4, "Item " + std::to_string(i), i);
+  ASSERT_TRUE(saveCurrentRecipe(wb));
+  EXPECT_EQ(recordCount(b.dir.file("Data/ZYRItems.dat"), 114), 25);
+  ASSERT_TRUE(loadRecipe(wb, 1));
+  EXPECT_EQ(wb.recipe.rec.itemCount, 25);
+  EXPECT_EQ(trim(wb.recipe.items[24].itemName), "Item 24");
+  EXPECT_EQ(wb.recipe.items[24].recipeNo, 1);
+  EXPECT_TRUE(b.prompter.shown.empty());
+}
+
+TEST(RecipeStore, MissingItemsWarnAndCountOneMore) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  newRecipeRecord(wb);
+  wb.recipe.rec.recipeNo = 1;
+  wb.recipe.rec.itemCount = 2;
+  wb.recipe.items[0] = item(0, "Pale", 8);
+  wb.recipe.items[1] = item(1, "Hallertau", 1);
+  ASSERT_TRUE(saveCurrentRecipe(wb));
+  // The record claims five items while two hang on it.
+  std::string all = readFile(b.dir.file("Data/ZYRecipe.dat"));
+  putI16(all, 8, 5);
+  writeFile(b.dir.file("Data/ZYRecipe.dat"), all);
+  ASSERT_TRUE(loadRecipe(wb, 1));
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].text, "Not all the Recipe Items where loaded for this Recipe");
+  EXPECT_EQ(b.prompter.shown[0].title, "Warning");
+  EXPECT_EQ(wb.recipe.rec.itemCount, 3);
+}
+
+TEST(RecipeStore, CorruptedRecordsStopTheOperationWithTheirErrors) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  for (int n = 1; n <= 3; ++n) {
+    newRecipeRecord(wb);
+    wb.recipe.rec.recipeNo = n;
+    wb.recipe.rec.recipeName = "R" + std::to_string(n);
+    wb.recipe.rec.itemCount = 1;
+    wb.recipe.items[0] = item(0, "Malt", n);
+    wb.recipe.comment = "note " + std::to_string(n);
+    ASSERT_TRUE(saveCurrentRecipe(wb));
+  }
+  const std::string recipes = b.dir.file("Data/ZYRecipe.dat");
+  std::string all = readFile(recipes);
+  putI16(all, 1546 + 1544, 298);  // record 2 ends badly
+  writeFile(recipes, all);
+  std::vector<long> seen;
+  EXPECT_FALSE(scanRecipes(wb, [&](long n, const RecipeRecord&) { seen.push_back(n); }));
+  EXPECT_EQ(seen, std::vector<long>{1});
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].text,
+            "Corrupted Recipe Record in " + recipes + " at Line 2, No More Recipes Loaded");
+  auto log = readLines(b.dir.file("ZYError.log"));
+  EXPECT_EQ(log[4], "Error #32020(Invalid Recipe Record Control Code)");
+  EXPECT_EQ(log[5], "Line #2");
+  EXPECT_EQ(log[6], "In Function RecipeList!mnuSortBy_Click");
+  EXPECT_EQ(log[7], "Affecting File: " + recipes);
+
+  EXPECT_FALSE(loadRecipe(wb, 2));
+  EXPECT_EQ(b.prompter.shown.back().text,
+            "Corrupted Recipe Record in " + recipes + " at Line 2, No More Recipes Loaded");
+
+  const std::string items = b.dir.file("Data/ZYRItems.dat");
+  std::string it = readFile(items);
+  putI16(it, 114, 0);  // item record 2 starts badly
+  writeFile(items, it);
+  EXPECT_FALSE(loadRecipe(wb, 3));
+  EXPECT_EQ(b.prompter.shown.back().text,
+            "Corrupted Recipe Item in " + items + " at Line 2, No More Recipe Items Loaded");
+  EXPECT_TRUE(loadRecipe(wb, 1));  // found before the bad record
+
+  const std::string comments = b.dir.file("Data/ZYComment.dat");
+  std::string cm = readFile(comments);
+  putI16(cm, 0, 7);
+  writeFile(comments, cm);
+  writeFile(items, readFile(items).replace(114, 2, std::string("\xC8\x00", 2)));
+  EXPECT_FALSE(loadRecipe(wb, 3));
+  EXPECT_EQ(b.prompter.shown.back().text,
+            "Corrupted Recipe Comment Record in " + comments + " at Line 1, No More Recipe Comments Loaded");
+  auto lines = readLines(b.dir.file("ZYError.log"));
+  EXPECT_EQ(std::count(lines.begin(), lines.end(), "Error #32022(Invalid Comment Record Control Code)"), 1);
+  EXPECT_TRUE(startsWith(lines[lines.size() - 8], "New Error "));
+}
+
+TEST(RecipeStore, PartialTrailingRecordIsNotReadAndMissingFilesAreCreated) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  int count = 0;
+  EXPECT_TRUE(scanRecipes(wb, [&](long, const RecipeRecord&) { ++count; }));
+  EXPECT_EQ(count, 0);
+  EXPECT_TRUE(fileExists(b.dir.file("Data/ZYRecipe.dat")));
+  newRecipeRecord(wb);
+  wb.recipe.rec.recipeNo = 1;
+  ASSERT_TRUE(saveCurrentRecipe(wb));
+  std::string all = readFile(b.dir.file("Data/ZYRecipe.dat"));
+  writeFile(b.dir.file("Data/ZYRecipe.dat"), all + all.substr(0, 700));
+  EXPECT_TRUE(scanRecipes(wb, [&](long, const RecipeRecord&) { ++count; }));
+  EXPECT_EQ(count, 1);
+  EXPECT_EQ(findNextRecipeSlot(wb), 2);
+}
+
+TEST(RecipeStore, DeleteFreesEverythingButRemovesNothing) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  newRecipeRecord(wb);
+  wb.recipe.rec.recipeNo = 1;
+  wb.recipe.rec.itemCount = 2;
+  wb.recipe.items[0] = item(0, "Pale", 8);
+  wb.recipe.items[1] = item(1, "Saaz", 1);
+  wb.recipe.comment = std::string(130, 'x');
+  ASSERT_TRUE(saveCurrentRecipe(wb));
+  ASSERT_TRUE(deleteRecipe(wb, 1));
+  EXPECT_EQ(ownerOf(b.dir.file("Data/ZYRecipe.dat"), 1546, 1), 0);
+  EXPECT_EQ(ownerOf(b.dir.file("Data/ZYRItems.dat"), 114, 1), 0);
+  EXPECT_EQ(ownerOf(b.dir.file("Data/ZYRItems.dat"), 114, 2), 0);
+  EXPECT_EQ(ownerOf(b.dir.file("Data/ZYComment.dat"), 126, 2), 0);
+  EXPECT_EQ(recordCount(b.dir.file("Data/ZYComment.dat"), 126), 2);
+  // The freed record keeps its other fields.
+  std::string all = readFile(b.dir.file("Data/ZYRecipe.dat"));
+  EXPECT_EQ(getText(all, 1326, 11), "Nov-22-2026");
+}
