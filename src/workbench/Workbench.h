@@ -10,6 +10,7 @@
 #include "core/paths.h"
 #include "core/ports.h"
 #include "core/settings.h"
+#include "recipes/RecipeList.h"
 #include "recipes/RecipeRecords.h"
 
 namespace zy {
@@ -36,6 +37,8 @@ class Workbench {
   long recipeSlotPosition = 1;
   // Called at the end of saveCurrentRecipe, to refresh the recipe tree.
   std::function<void()> refreshRecipeTree;
+  // The recipe list's model: the tree of recipes, its sort mode and currentRecipeKey.
+  RecipeList recipeList;
 
   // Set when the main window starts to close: a child window's close only hides it (so that it
   // keeps its state between uses) unless this is set.
