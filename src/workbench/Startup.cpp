@@ -1,8 +1,15 @@
 #include "workbench/Startup.h"
 
+#include <cerrno>
 #include <cmath>
+#include <cstdio>
 
+#include "core/records.h"
 #include "core/text.h"
+#include "recipes/RecipeExchange.h"
+#include "recipes/RecipeList.h"
+#include "recipes/RecipeStore.h"
+#include "workbench/Workbench.h"
 
 namespace zy {
 
@@ -125,6 +132,25 @@ void writePlacement(SettingsStore& store, const std::string& section, const Wind
   store.write(section, "MainTop", itos(p.top));
   store.write(section, "MainWidth", itos(p.width));
   store.write(section, "MainHeight", itos(p.height));
+}
+
+long importCommandLineRecipe(Workbench& wb, const std::string& path) {
+  if (wb.recipeList.sortMode < 0) wb.recipeList.formLoad(wb);
+  if (!fileExists(path)) return 0;
+  std::FILE* f = std::fopen(path.c_str(), "rb");
+  if (!f) {
+    wb.errors.reportFileError(fileErrorFromErrno(errno, path), 0, "frmMain!Form_Load");
+    return 0;
+  }
+  ImportOutcome outcome = importRecipe(wb, f);
+  std::fclose(f);
+  if (!outcome.recognized) return 0;
+  long slot = findNextRecipeSlot(wb);
+  if (slot < 1) return 0;
+  wb.recipe.rec.recipeNo = static_cast<int>(slot);
+  addToRecipeList(wb, true);
+  if (!saveCurrentRecipe(wb)) return 0;
+  return slot;
 }
 
 }  // namespace zy
