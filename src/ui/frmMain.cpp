@@ -73,7 +73,7 @@ frmMain::frmMain(Workbench& wb, QWidget* parent) : QMainWindow(parent), wb_(wb),
   split->addWidget(buildPagePanel());
   split->setStretchFactor(0, 0);
   split->setStretchFactor(1, 1);
-  split->setSizes({330, 700});
+  split->setSizes({split->widget(0)->minimumWidth(), 700});
   split->setChildrenCollapsible(false);
   setCentralWidget(split);
 
@@ -108,7 +108,7 @@ QWidget* frmMain::buildTopicPanel() {
   tabTopics = new QTabBar;
   tabTopics->setObjectName("tabTopics");
   tabTopics->setExpanding(false);
-  tabTopics->setUsesScrollButtons(true);
+  tabTopics->setUsesScrollButtons(false);
   tabTopics->setDrawBase(false);
   const char* tips[kTopicTreeCount] = {"Every topic of the encyclopedia", "Guided courses of topics",
                                        "The topics you have read, newest first", "Topics related to the one you read",
@@ -119,6 +119,8 @@ QWidget* frmMain::buildTopicPanel() {
     tabTopics->setTabData(i, QString(kTopicTabKeys[i]));
   }
   v->addWidget(tabTopics);
+  // The panel is never narrower than its five tabs.
+  panel->setMinimumWidth(tabTopics->sizeHint().width() + 8);
 
   // The search panel (tab "Search").
   picSearch = new QWidget;
