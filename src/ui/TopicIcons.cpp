@@ -208,6 +208,12 @@ void drawBack(QPainter& p) {
   p.drawPath(a);
 }
 
+void drawForward(QPainter& p) {
+  p.translate(32, 0);
+  p.scale(-1, 1);
+  drawBack(p);
+}
+
 void drawSearch(QPainter& p) {
   p.setPen(QPen(kInk, 3));
   p.drawLine(QPointF(19, 19), QPointF(28, 28));
@@ -266,6 +272,7 @@ QIcon toolIcon(ToolIcon which) {
     case ToolIcon::Shopping: { static const QIcon i = render(drawShopping); return i; }
     case ToolIcon::Help: { static const QIcon i = render(drawHelp); return i; }
     case ToolIcon::Back: { static const QIcon i = render(drawBack); return i; }
+    case ToolIcon::Forward: { static const QIcon i = render(drawForward); return i; }
     case ToolIcon::Search: { static const QIcon i = render(drawSearch); return i; }
     case ToolIcon::Clear: { static const QIcon i = render(drawClear); return i; }
     case ToolIcon::Refresh: { static const QIcon i = render(drawRefresh); return i; }

@@ -12,7 +12,7 @@ namespace zy {
 QIcon topicIcon(TopicIcon which);
 QIcon topicIcon(const QString& key);
 
-enum class ToolIcon { Print, Recipes, Inventory, Styles, Shopping, Help, Back, Search, Clear, Refresh };
+enum class ToolIcon { Print, Recipes, Inventory, Styles, Shopping, Help, Back, Forward, Search, Clear, Refresh };
 QIcon toolIcon(ToolIcon which);
 
 // The program's window icon.

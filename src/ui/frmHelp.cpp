@@ -95,7 +95,7 @@ frmHelp::frmHelp(const QString& helpFolder, QWidget* parent) : QMainWindow(paren
   split->addWidget(webHelp);
   split->setStretchFactor(0, 0);
   split->setStretchFactor(1, 1);
-  split->setSizes({260, 620});
+  split->setSizes({290, 610});
   split->setChildrenCollapsible(false);
   setCentralWidget(split);
 
@@ -108,9 +108,10 @@ frmHelp::frmHelp(const QString& helpFolder, QWidget* parent) : QMainWindow(paren
   back->setShortcut(QKeySequence::Back);
   back->setToolTip(tr("Back to the page shown before (Alt+Left)"));
   back->setEnabled(false);
-  QAction* fwd = tb->addAction(tr("Forward"), webHelp, &QTextBrowser::forward);
+  QAction* fwd = tb->addAction(toolIcon(ToolIcon::Forward), tr("Forward"), webHelp, &QTextBrowser::forward);
   fwd->setShortcut(QKeySequence::Forward);
   fwd->setEnabled(false);
+  fwd->setToolTip(tr("Forward to the page you came back from (Alt+Right)"));
   QAction* home = tb->addAction(topicIcon(TopicIcon::OpenBook), tr("Contents"), this, [this] { showContents(); });
   home->setToolTip(tr("The first page of the help"));
   QAction* print = tb->addAction(toolIcon(ToolIcon::Print), tr("Print"), this, &frmHelp::printPage);
@@ -187,8 +188,14 @@ void frmHelp::filterIndex(const QString& text) {
   // The list keeps every keyword; typing moves to the first that starts with the text, as a
   // printed index is read.
   if (lstIndex->count() == 0) {
-    for (const HelpIndexEntry& e : catalog_.index()) {
-      auto* item = new QListWidgetItem(e.keyword + "  (" + e.pageTitle + ")");
+    const auto& index = catalog_.index();
+    for (int i = 0; i < index.size(); ++i) {
+      const HelpIndexEntry& e = index[i];
+      // A keyword found on two pages names its page; otherwise the page is in the tooltip.
+      const bool doubled = (i > 0 && index[i - 1].keyword.compare(e.keyword, Qt::CaseInsensitive) == 0) ||
+                           (i + 1 < index.size() && index[i + 1].keyword.compare(e.keyword, Qt::CaseInsensitive) == 0);
+      auto* item = new QListWidgetItem(doubled ? e.keyword + " (" + e.pageTitle + ")" : e.keyword);
+      item->setToolTip(e.pageTitle);
       item->setData(Qt::UserRole, e.target);
       item->setData(Qt::UserRole + 1, e.keyword);
       lstIndex->addItem(item);

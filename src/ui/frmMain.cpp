@@ -557,7 +557,7 @@ void frmMain::refreshFromModel() {
     history->setCurrentItem(history->topLevelItem(browser_.currentHistory));
   syncing_ = false;
 
-  lblStatusCount->setText(tr("%1 Topics, %2 Mini-Books")
+  lblStatusCount->setText(tr("Topics: %1    Mini-Books: %2")
                               .arg(browser_.trees[TreeAllTopics].size())
                               .arg(browser_.trees[TreeMiniBooks].size()));
 }

@@ -58,6 +58,7 @@ frmProperties::frmProperties(Workbench& wb, QWidget* parent) : QDialog(parent), 
 
   tbsOptions = new QTabWidget;
   tbsOptions->setObjectName("tbsOptions");
+  tbsOptions->setUsesScrollButtons(false);  // all seven pages in sight
   const auto& captions = PropertiesModel::pageCaptions();
   QWidget* pages[7] = {buildUserPage(),      buildUnitsPage(), buildRecipePage(),   buildIncrementsPage(),
                        buildWaterPage(),     buildTreatmentPage(), buildQuillmarkPage()};
@@ -161,6 +162,8 @@ QComboBox* frmProperties::makeCombo(const std::string& name, const QString& tip)
   auto* c = new QComboBox;
   c->setObjectName(QString::fromStdString(name));
   for (const std::string& e : PropertiesModel::comboEntries(name)) c->addItem(qs(e));
+  if (startsWith(name, "cbo") && !startsWith(name, "cboPosition") && !startsWith(name, "cboFontSize"))
+    c->setMinimumWidth(200);
   if (!tip.isEmpty()) c->setToolTip(tip);
   // `activated` comes from the user only, never from the window filling its lists.
   connect(c, &QComboBox::activated, this, [this, name](int index) {
@@ -212,6 +215,7 @@ QWidget* frmProperties::buildUserPage() {
 QWidget* frmProperties::buildUnitsPage() {
   auto* page = new QWidget;
   auto* form = new QFormLayout;
+  form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
   form->addRow(tr("&Unit System:"), makeCombo("cboUnitType", tr("The measurement system of new recipes")));
   auto* recipeType = makeCombo("cboRecipeType", tr("New recipes always start as this type"));
   recipeType->setEnabled(false);
@@ -262,10 +266,10 @@ QWidget* frmProperties::buildRecipePage() {
   top->setColumnMinimumWidth(2, 50);
 
   auto* grid = new QGridLayout;
-  const QStringList heads = {tr("Name"), tr("Quantity"), tr("Unit Cost"), tr("Extraction / Alpha % / Atten. %"),
-                             tr("Color / Boil Time")};
-  for (int c = 0; c < heads.size(); ++c) grid->addWidget(header(heads[c]), 0, c + 1);
-  grid->addWidget(header(tr("Mash")), 0, 6);
+  const QStringList heads = {tr("Name"), tr("Quantity"), tr("Unit Cost"), tr("Extraction<br>Alpha %<br>Atten. %"),
+                             tr("Color<br>Boil Time")};
+  for (int c = 0; c < heads.size(); ++c) grid->addWidget(header(heads[c]), 0, c + 1, Qt::AlignBottom);
+  grid->addWidget(header(tr("Mash")), 0, 6, Qt::AlignBottom);
   struct Row {
     const char* control;
     QString caption;
@@ -295,15 +299,10 @@ QWidget* frmProperties::buildRecipePage() {
   }
   grid->setColumnStretch(1, 1);
   auto* maltUnits = new QHBoxLayout;
-  maltUnits->addWidget(new QLabel(tr("Malt quantities in")));
   auto* mu = new QLabel;
-  maltUnitLabels_ << mu;
+  mu->setObjectName("lblWeightUnits");
+  weightUnitsLabel_ = mu;
   maltUnits->addWidget(mu);
-  maltUnits->addSpacing(16);
-  maltUnits->addWidget(new QLabel(tr("hops quantities in")));
-  auto* hu = new QLabel;
-  hopsUnitLabels_ << hu;
-  maltUnits->addWidget(hu);
   maltUnits->addStretch();
   auto* gv = new QVBoxLayout;
   gv->addLayout(grid);
@@ -323,9 +322,9 @@ QWidget* frmProperties::buildRecipePage() {
 QWidget* frmProperties::buildIncrementsPage() {
   auto* page = new QWidget;
   auto* grid = new QGridLayout;
-  const QStringList heads = {tr("Quantity"), tr("Unit Cost"), tr("Extraction / Alpha % / Atten. %"),
-                             tr("Color / Boil Time")};
-  for (int c = 0; c < heads.size(); ++c) grid->addWidget(header(heads[c]), 0, c + 1);
+  const QStringList heads = {tr("Quantity"), tr("Unit Cost"), tr("Extraction<br>Alpha %<br>Atten. %"),
+                             tr("Color<br>Boil Time")};
+  for (int c = 0; c < heads.size(); ++c) grid->addWidget(header(heads[c]), 0, c + 1, Qt::AlignBottom);
   struct Row {
     const char* control;
     QString caption;
@@ -488,8 +487,8 @@ void frmProperties::refresh() {
   }
   for (QLabel* l : volumeUnitLabels_) l->setText(qs(model.comboText("cboVolumeUnits")));
   for (QLabel* l : spargeUnitLabels_) l->setText(qs(model.comboText("cboSpargeUnits")));
-  for (QLabel* l : maltUnitLabels_) l->setText(qs(model.comboText("cboMaltUnits")));
-  for (QLabel* l : hopsUnitLabels_) l->setText(qs(model.comboText("cboHopsUnits")));
+  weightUnitsLabel_->setText(tr("Quantities of malt in %1, of hops in %2.")
+                                 .arg(qs(model.comboText("cboMaltUnits")), qs(model.comboText("cboHopsUnits"))));
   enableQuillmarkRows();
   refreshing_ = false;
 }

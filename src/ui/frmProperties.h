@@ -78,7 +78,8 @@ class frmProperties : public QDialog {
   std::map<std::string, QCheckBox*> checks_;
   std::map<std::string, QComboBox*> combos_;
   std::map<std::string, int> fieldPage_;
-  QList<QLabel*> volumeUnitLabels_, spargeUnitLabels_, maltUnitLabels_, hopsUnitLabels_;
+  QList<QLabel*> volumeUnitLabels_, spargeUnitLabels_;
+  QLabel* weightUnitsLabel_ = nullptr;
   QList<QWidget*> quillmarkRows_;
   bool refreshing_ = false;
 };
