@@ -48,21 +48,26 @@ struct RecipeTree::Impl {
 
   Level& levelOf(const TreeNode& n) { return n.pub.parent.empty() ? roots : kids[n.pub.parent]; }
 
-  static void countTag(std::unordered_map<std::string, long>& m, const std::string& tag, long delta) {
+  // Returns true when a Tag went out of use.
+  static bool countTag(std::unordered_map<std::string, long>& m, const std::string& tag, long delta) {
     auto it = m.find(tag);
     if (it == m.end()) {
       if (delta > 0) m.emplace(tag, delta);
-      return;
+      return false;
     }
     it->second += delta;
-    if (it->second <= 0) m.erase(it);
+    if (it->second > 0) return false;
+    m.erase(it);
+    return true;
   }
-  void retag(TreeNode& n, const std::string& tag) {
-    countTag(tagCount, n.pub.tag, -1);
-    if (n.pub.isLeaf()) countTag(leafTagCount, n.pub.tag, -1);
+  // Returns true when a Tag went out of use.
+  bool retag(TreeNode& n, const std::string& tag) {
+    bool released = countTag(tagCount, n.pub.tag, -1);
+    if (n.pub.isLeaf()) released |= countTag(leafTagCount, n.pub.tag, -1);
     n.pub.tag = tag;
     countTag(tagCount, n.pub.tag, +1);
     if (n.pub.isLeaf()) countTag(leafTagCount, n.pub.tag, +1);
+    return released;
   }
 };
 
@@ -70,7 +75,7 @@ RecipeTree::RecipeTree() : d_(std::make_unique<Impl>()) {}
 RecipeTree::~RecipeTree() = default;
 
 RecipeTree::AddResult RecipeTree::add(const std::string& parentKey, const std::string& key, const std::string& text,
-                                      const std::string& image) {
+                                      const std::string& image, const std::string& nodeTag) {
   if (!parentKey.empty()) {
     auto p = d_->nodes.find(parentKey);
     if (p == d_->nodes.end() || p->second.pub.isLeaf() || !p->second.pub.parent.empty())
@@ -82,6 +87,7 @@ RecipeTree::AddResult RecipeTree::add(const std::string& parentKey, const std::s
   n.pub.text = text;
   n.pub.image = image;
   n.pub.parent = parentKey;
+  n.pub.tag = nodeTag;
   n.folded = lower(text);
   n.seq = d_->nextSeq++;
   Impl::countTag(d_->tagCount, n.pub.tag, +1);
@@ -102,14 +108,15 @@ bool RecipeTree::remove(const std::string& key) {
     d_->kids.erase(key);
   }
   d_->levelOf(n).erase(&n);
-  Impl::countTag(d_->tagCount, n.pub.tag, -1);
-  if (n.pub.isLeaf()) Impl::countTag(d_->leafTagCount, n.pub.tag, -1);
+  if (Impl::countTag(d_->tagCount, n.pub.tag, -1)) ++released_;
+  if (n.pub.isLeaf() && Impl::countTag(d_->leafTagCount, n.pub.tag, -1)) ++released_;
   d_->nodes.erase(it);
   return true;
 }
 
 void RecipeTree::clear() {
   d_ = std::make_unique<Impl>();
+  ++released_;
   tag = "0";
 }
 
@@ -133,7 +140,7 @@ bool RecipeTree::setText(const std::string& key, const std::string& text) {
 bool RecipeTree::setTag(const std::string& key, const std::string& newTag) {
   auto it = d_->nodes.find(key);
   if (it == d_->nodes.end()) return false;
-  d_->retag(it->second, newTag);
+  if (d_->retag(it->second, newTag)) ++released_;
   return true;
 }
 
@@ -142,9 +149,9 @@ bool RecipeTree::setImage(const std::string& key, const std::string& image) {
   if (it == d_->nodes.end()) return false;
   TreeNode& n = it->second;
   std::string oldTag = n.pub.tag;
-  d_->retag(n, "");  // the leaf count follows the image
+  if (d_->retag(n, "")) ++released_;  // the leaf count follows the image
   n.pub.image = image;
-  d_->retag(n, oldTag);
+  if (d_->retag(n, oldTag)) ++released_;
   return true;
 }
 
@@ -335,6 +342,47 @@ std::optional<std::string> RecipeList::numberedName(const std::string& name) {
   return p->first + p->second;
 }
 
+std::optional<std::string> RecipeList::freeName(const std::string& start) {
+  // The rule walks all nodes after each renaming; a set of Tags answers the same question at once.
+  // The chain of names from a name is fixed (Amber, Amber 1, ... Amber 10, Amber 12, Amber 22 ...),
+  // so the walk remembers how far along a chain every name is known to be taken, which keeps many
+  // recipes of one name from walking the whole chain again each time.
+  if (chainSkipReleased_ != tree.tagsReleased()) {
+    chainSkip_.clear();
+    chainDeadEnd_.clear();
+    chainSkipReleased_ = tree.tagsReleased();
+  }
+  std::vector<std::string> visited;
+  std::unordered_set<std::string> seen;
+  std::string name = start;
+  auto deadEnd = [&]() -> std::optional<std::string> {
+    for (const std::string& v : visited) chainDeadEnd_.insert(v);
+    return std::nullopt;
+  };
+  while (tree.tagInUse(name)) {
+    if (chainDeadEnd_.count(name)) return deadEnd();
+    if (!seen.insert(name).second) return deadEnd();  // the rule went round in a circle
+    visited.push_back(name);
+    auto skip = chainSkip_.find(name);
+    if (skip != chainSkip_.end() && skip->second != name) {
+      name = skip->second;
+      continue;
+    }
+    auto parts = numberParts(name);
+    if (!parts) return deadEnd();
+    std::string next = parts->first + parts->second;
+    // The record holds 60 characters: a number that would not fit takes the place of the
+    // name's last characters.
+    if (next.size() > kNameLength) {
+      size_t keep = parts->second.size() >= kNameLength ? 0 : kNameLength - parts->second.size();
+      next = (parts->first.substr(0, keep) + parts->second).substr(0, kNameLength);
+    }
+    name = std::move(next);
+  }
+  for (const std::string& v : visited) chainSkip_[v] = name;
+  return name;
+}
+
 std::optional<std::string> RecipeList::leafText(const RecipeRecord& rec, const std::string& suffix) const {
   std::string name = trim(rec.recipeName);
   if (sortMode != SORT_BY_DATE) return name + suffix;
@@ -357,23 +405,12 @@ bool RecipeList::addToRecipeList(Workbench& wb, bool selectIt) {
   std::string name = trim(rec.recipeName);
   rec.recipeName = name;
 
-  // 3. and 4. Doubled names: number the name until no node's Tag equals it. The record holds 60
-  // characters, so a number that would not fit takes the place of the name's last characters.
+  // 3. and 4. Doubled names: number the name until no node's Tag equals it.
   if (tree.tagInUse(name)) {
-    std::unordered_set<std::string> tried{name};
-    while (tree.tagInUse(name)) {
-      auto parts = numberParts(name);
-      if (!parts) return fail("Overflow");
-      std::string next = parts->first + parts->second;
-      if (next.size() > kNameLength) {
-        size_t keep = parts->second.size() >= kNameLength ? 0 : kNameLength - parts->second.size();
-        next = parts->first.substr(0, keep) + parts->second;
-        next = next.substr(0, kNameLength);
-      }
-      if (!tried.insert(next).second) return fail("Overflow");  // the rule went round in a circle
-      name = next;
-      rec.recipeName = name;
-    }
+    auto free = freeName(name);
+    if (!free) return fail("Overflow");
+    name = *free;
+    rec.recipeName = name;
   }
 
   // 5. Leaf text and group by the sort mode.
@@ -421,11 +458,11 @@ bool RecipeList::addToRecipeList(Workbench& wb, bool selectIt) {
 
   // 6. and 7. Add, creating the group on demand. Two records claiming one number give the same
   // key: the user hears of it once and the second is left out.
-  RecipeTree::AddResult r = tree.add(group, key, *text, "Leaf");
+  // (The node's Tag, step 9, is given as it is added.)
+  RecipeTree::AddResult r = tree.add(group, key, *text, "Leaf", name);
   if (r == RecipeTree::AddResult::MissingParent) {
-    if (tree.add("", group, group, "ClosedBook") == RecipeTree::AddResult::Added) {
-      tree.setTag(group, "Parent");
-      r = tree.add(group, key, *text, "Leaf");
+    if (tree.add("", group, group, "ClosedBook", "Parent") == RecipeTree::AddResult::Added) {
+      r = tree.add(group, key, *text, "Leaf", name);
     } else {
       r = RecipeTree::AddResult::KeyExists;
     }
@@ -438,7 +475,6 @@ bool RecipeList::addToRecipeList(Workbench& wb, bool selectIt) {
   if (r != RecipeTree::AddResult::Added) return fail("Element not found");
 
   // 9. and 10.
-  tree.setTag(key, name);
   currentRecipeKey = key;
   tree.tag = itos(static_cast<long long>(lenientValue(tree.tag)) + 1);
   showCount();

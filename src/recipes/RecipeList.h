@@ -16,6 +16,7 @@
 #include <set>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace zy {
@@ -45,10 +46,10 @@ class RecipeTree {
   RecipeTree(const RecipeTree&) = delete;
   RecipeTree& operator=(const RecipeTree&) = delete;
 
-  // Adds a node under `parentKey` (empty: at the root) with an empty Tag. A parent that does not
-  // exist (or is itself a leaf) gives MissingParent, a key in use KeyExists; nothing is added then.
+  // Adds a node under `parentKey` (empty: at the root). A parent that does not exist (or is
+  // itself a leaf) gives MissingParent, a key in use KeyExists; nothing is added then.
   AddResult add(const std::string& parentKey, const std::string& key, const std::string& text,
-                const std::string& image);
+                const std::string& image, const std::string& tag = {});
   // Removes a node (a group with its children). False when the key is unknown.
   bool remove(const std::string& key);
   void clear();
@@ -71,12 +72,17 @@ class RecipeTree {
   // True when some leaf has exactly this Tag.
   bool leafTagInUse(const std::string& tag) const;
 
+  // Counts the times a Tag went out of use (or the tree was cleared): while it stands still,
+  // every Tag in use stays in use, and a cache of doubled names stays true.
+  uint64_t tagsReleased() const { return released_; }
+
   // The tree's own Tag: the recipe count as decimal text.
   std::string tag = "0";
 
  private:
   struct Impl;
   std::unique_ptr<Impl> d_;
+  uint64_t released_ = 0;
 };
 
 // Sort modes: index into SortNames.
@@ -177,8 +183,16 @@ class RecipeList {
 
  private:
   void showCount();
+  // The first name not in use along the numbering chain from a given name.
+  std::optional<std::string> freeName(const std::string& name);
   // Batch log counts of the scan in progress (one pass of ZYBatchLog.dat per rebuild).
   std::unique_ptr<std::map<int, long>> scanLogCounts_;
+  // Shortcuts along numbering chains: from a name to a later name of its chain such that every
+  // name between them was in use. Valid while no Tag goes out of use (tree.tagsReleased()).
+  std::unordered_map<std::string, std::string> chainSkip_;
+  // Names whose chain runs into a number beyond 16 bits (or round in a circle) before a free name.
+  std::unordered_set<std::string> chainDeadEnd_;
+  uint64_t chainSkipReleased_ = 0;
 };
 
 // The procedures by the names the other windows call them.

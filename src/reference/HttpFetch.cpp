@@ -109,7 +109,11 @@ std::string SocketHttpFetch::fetch(const std::string& url) {
   const auto deadline = Clock::now() + std::chrono::milliseconds(timeoutMs_);
   int fd = connectTo(u, deadline);
   if (fd < 0) return {};
-  std::string hostHeader = u.host + (u.port == 80 ? "" : ":" + std::to_string(u.port));
+  std::string hostHeader = u.host;
+  if (u.port != 80) {
+    hostHeader += ':';
+    hostHeader += std::to_string(u.port);
+  }
   std::string request = "GET " + u.path + " HTTP/1.0\r\nHost: " + hostHeader + "\r\nUser-Agent: Zythara/" +
                         versionText() + "\r\nAccept: text/plain, */*\r\nConnection: close\r\n\r\n";
   std::string response;

@@ -62,4 +62,10 @@ UpdateResult checkForUpdate(Workbench& wb, HttpFetch& http, const std::string& u
   return result;
 }
 
+UpdateResult startupUpdateCheck(Workbench& wb, HttpFetch& http,
+                                const std::function<void(const std::string&)>& openBrowser) {
+  if (wb.defaults.autoUpdate != 1) return {};
+  return checkForUpdate(wb, http, {}, openBrowser);
+}
+
 }  // namespace zy

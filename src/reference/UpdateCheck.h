@@ -41,4 +41,9 @@ struct UpdateResult {
 UpdateResult checkForUpdate(Workbench& wb, HttpFetch& http, const std::string& url = {},
                             const std::function<void(const std::string&)>& openBrowser = {});
 
+// The check at the end of the main window's load: only while the user default "Auto Update" is 1
+// (Automatically Check for Zythara Updates); otherwise NotDue with no request.
+UpdateResult startupUpdateCheck(Workbench& wb, HttpFetch& http,
+                                const std::function<void(const std::string&)>& openBrowser = {});
+
 }  // namespace zy

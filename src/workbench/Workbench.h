@@ -10,8 +10,10 @@
 #include "core/paths.h"
 #include "core/ports.h"
 #include "core/settings.h"
+#include "calculators/HopsUtilization.h"
 #include "recipes/RecipeList.h"
 #include "recipes/RecipeRecords.h"
+#include "styles/StyleTables.h"
 
 namespace zy {
 
@@ -37,6 +39,11 @@ class Workbench {
   long recipeSlotPosition = 1;
   // Called at the end of saveCurrentRecipe, to refresh the recipe tree.
   std::function<void()> refreshRecipeTree;
+
+  // The beer style tables and the style chosen for the open recipe (LoadBeerStyles).
+  StyleTables styles;
+  // The hops utilization curve and its gravity adjustment (LoadHopsUtilization).
+  HopsUtilization hops;
   // The recipe list's model: the tree of recipes, its sort mode and currentRecipeKey.
   RecipeList recipeList;
 

@@ -1,0 +1,307 @@
+// The hops utilization curve: look-ups, the gravity divisor, the settings, and the window model's
+// editing rules, presets, factor mending, graph, Accept and Cancel.
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "calculators/HopsUtilization.h"
+#include "calculators/HopsUtilizationEditor.h"
+#include "core/settings.h"
+
+namespace zy {
+namespace {
+
+constexpr const char* S = "Hops Utilization";
+
+TEST(HopsLookup, RagerCurveAtTheNamedMinutes) {
+  HopsUtilization h;  // the Rager defaults
+  EXPECT_DOUBLE_EQ(h.lookupUtilization(2.5), 0.025);
+  EXPECT_DOUBLE_EQ(h.lookupUtilization(5), 0.05);  // base of row 2, not row 1's slope
+  EXPECT_DOUBLE_EQ(h.lookupUtilization(7.5), 0.055);
+  EXPECT_DOUBLE_EQ(h.lookupUtilization(89), 0.30);
+  EXPECT_DOUBLE_EQ(h.lookupUtilization(90), 0.30);
+  EXPECT_DOUBLE_EQ(h.lookupUtilization(240), 0.30);
+  EXPECT_DOUBLE_EQ(h.lookupUtilization(42.5), (22.8 + 2.5 * (26.9 - 22.8) / 5.0) / 100.0);
+  EXPECT_EQ(h.lookupUtilization(0), 0.0);
+  EXPECT_EQ(h.lookupUtilization(-10), 0.0);
+  EXPECT_EQ(h.lookupUtilization(std::nan("")), 0.0);
+
+  // A curve flat at its last row from 90 minutes on, whatever lies between.
+  h.UtilTable[18] = 33.3;
+  h.rebuildDerived();
+  EXPECT_DOUBLE_EQ(h.lookupUtilization(1000), 0.333);
+  EXPECT_DOUBLE_EQ(h.lookupUtilization(87.5), (30.0 + 2.5 * 3.3 / 5.0) / 100.0);
+
+  // Garetz: nothing up to 10 minutes.
+  for (int i = 1; i <= 18; ++i) h.UtilTable[i] = garetzCurve()[i - 1];
+  h.rebuildDerived();
+  EXPECT_EQ(h.lookupUtilization(5), 0.0);
+  EXPECT_EQ(h.lookupUtilization(10), 0.0);
+  EXPECT_DOUBLE_EQ(h.lookupUtilization(12.5), 0.005);
+}
+
+TEST(HopsLookup, DerivedArraysPassThroughDecimalText) {
+  HopsUtilization h;
+  h.UtilTable[1] = 0.1 + 0.2;  // 0.30000000000000004 as a double, "0.3" as text
+  h.rebuildDerived();
+  EXPECT_EQ(h.UtilBase[2], 0.3);
+  EXPECT_EQ(h.UtilSlope[1], 0.3 / 5.0);
+  EXPECT_EQ(h.lookupUtilization(5), 0.3 / 100.0);
+}
+
+TEST(HopsDivisor, ThresholdFirstThenTheMode) {
+  HopsUtilization h;  // mode 1, 1.050, 0.200
+  EXPECT_EQ(h.gravityAdjustmentDivisor(0.05), 1.0);  // exactly at Factor1 - 1
+  EXPECT_EQ(h.gravityAdjustmentDivisor(0.03), 1.0);
+  EXPECT_DOUBLE_EQ(h.gravityAdjustmentDivisor(boilGravityExcess(5, 5, 0.060)), 1.05);  // a 1.060 wort, full boil
+  // Half the volume boiled doubles the excess: (0.12 + 1 - 1.05) / 0.2 + 1.
+  EXPECT_DOUBLE_EQ(h.gravityAdjustmentDivisor(boilGravityExcess(5, 2.5, 0.060)), 1.35);
+  EXPECT_EQ(boilGravityExcess(5, 0, 0.060), 0.0);
+
+  h.GravityAdjustment = GRAVITY_ADJUST_TINSETH;
+  h.Factor1 = 1.000;
+  h.Factor2 = 0.000125;
+  EXPECT_DOUBLE_EQ(h.gravityAdjustmentDivisor(0.001), 1.0 / std::pow(0.000125, 0.001));
+  EXPECT_GT(h.gravityAdjustmentDivisor(0.001), 1.0);  // above the threshold at any gravity over 1.000
+  EXPECT_EQ(h.gravityAdjustmentDivisor(0.0), 1.0);
+
+  h.GravityAdjustment = GRAVITY_ADJUST_NONE;
+  EXPECT_EQ(h.gravityAdjustmentDivisor(0.5), 1.0);
+  h.GravityAdjustment = 7;
+  EXPECT_EQ(h.gravityAdjustmentDivisor(0.5), 1.0);
+
+  // Never 0, never a division by zero.
+  h.GravityAdjustment = GRAVITY_ADJUST_RAGER;
+  h.Factor1 = 1.05;
+  h.Factor2 = 0;
+  EXPECT_EQ(h.gravityAdjustmentDivisor(0.1), 1.0);
+  h.Factor1 = 1.25;
+  h.Factor2 = -0.25;  // (0.5 + 1 - 1.25) / -0.25 + 1 = 0
+  EXPECT_EQ(h.gravityAdjustmentDivisor(0.5), 1.0);
+}
+
+TEST(HopsSettings, MissingKeysGiveTheRagerDefaults) {
+  MemorySettingsStore s;
+  HopsUtilization h;
+  h.UtilTable[4] = 99;
+  LoadHopsUtilization(h, s);
+  EXPECT_EQ(h.UtilTitle, "Rager");
+  EXPECT_EQ(h.GravityAdjustment, 1);
+  EXPECT_DOUBLE_EQ(h.Factor1, 1.05);
+  EXPECT_DOUBLE_EQ(h.Factor2, 0.2);
+  EXPECT_DOUBLE_EQ(h.Factor3, 0.02);
+  EXPECT_EQ(h.UtilTable[4], 10.1);
+
+  s.write(S, "Title", "Tinseth");
+  s.write(S, "Utilization 1", "7.2");
+  s.write(S, "Utilization 18", "38.7");
+  s.write(S, "Gravity Adjustment", "2");
+  s.write(S, "Factor 1", "1.000");
+  s.write(S, "Factor 2", "0.000125");
+  s.write(S, "Factor 3", "junk");
+  LoadHopsUtilization(h, s);
+  EXPECT_EQ(h.UtilTitle, "Tinseth");
+  EXPECT_EQ(h.UtilTable[1], 7.2);
+  EXPECT_EQ(h.UtilTable[2], 6.0);  // not stored: the default row
+  EXPECT_EQ(h.GravityAdjustment, 2);
+  EXPECT_DOUBLE_EQ(h.Factor2, 0.000125);
+  EXPECT_EQ(h.Factor3, 0.0);  // decimal text read leniently
+  EXPECT_DOUBLE_EQ(h.lookupUtilization(2.5), 0.036);
+}
+
+HopsUtilizationEditor openedOnDefaults() {
+  HopsUtilizationEditor e;
+  e.load(HopsUtilization{});
+  return e;
+}
+
+TEST(HopsEditor, LoadShowsTheStoredCurveAndFactors) {
+  HopsUtilizationEditor e = openedOnDefaults();
+  EXPECT_EQ(e.cells[1], "5.0");
+  EXPECT_EQ(e.cells[4], "10.1");
+  EXPECT_EQ(HopsUtilizationEditor::minutesText(18), "90");
+  EXPECT_EQ(e.lblTitle, "Rager");
+  EXPECT_EQ(e.mode, 1);
+  EXPECT_EQ(e.txtFactor, (std::array<std::string, 3>{"1.050", "0.200", "0.020"}));
+  EXPECT_EQ(e.lblGravity[0], "(for gravities >= 1.050)");
+  EXPECT_EQ(e.lblBlue, "1.070");
+  EXPECT_EQ(e.lblGreen, "1.090");
+  EXPECT_TRUE(e.graphError.empty());
+}
+
+TEST(HopsEditor, EditsAreClampedAndKeepTheCurveRising) {
+  HopsUtilizationEditor e = openedOnDefaults();
+  e.editCell(5, "50");
+  EXPECT_EQ(e.cells[5], "40.0");
+  for (int r = 6; r <= 18; ++r) EXPECT_EQ(e.cells[r], "40.0") << r;
+  EXPECT_EQ(e.lblTitle, "Custom Utilization Curve");
+
+  e = openedOnDefaults();
+  e.editCell(3, "12");
+  EXPECT_EQ(e.cells[3], "12.0");
+  EXPECT_EQ(e.cells[4], "12.0");  // 10.1 raised
+  EXPECT_EQ(e.cells[5], "12.1");  // already above
+  EXPECT_EQ(e.cells[1], "5.0");
+  EXPECT_EQ(e.cells[2], "6.0");
+
+  e = openedOnDefaults();
+  e.editCell(3, "3");
+  EXPECT_EQ(e.cells[1], "3.0");  // 5.0 and 6.0 lowered
+  EXPECT_EQ(e.cells[2], "3.0");
+  EXPECT_EQ(e.cells[3], "3.0");
+  EXPECT_EQ(e.cells[4], "10.1");
+
+  e = openedOnDefaults();
+  e.editCell(1, "-4");
+  EXPECT_EQ(e.cells[1], "0.0");
+  e.editCell(2, ".5");
+  EXPECT_EQ(e.cells[2], "0.5");
+
+  // The same value again changes neither the title nor the curve.
+  e = openedOnDefaults();
+  e.editCell(7, "18.80");
+  EXPECT_EQ(e.cells[7], "18.8");
+  EXPECT_EQ(e.lblTitle, "Rager");
+}
+
+TEST(HopsEditor, PresetsKeepTheirTitleAndSetTheirFactors) {
+  HopsUtilizationEditor e = openedOnDefaults();
+  e.editCell(9, "1");
+  e.cmdTinseth();
+  EXPECT_EQ(e.lblTitle, "Tinseth");
+  EXPECT_EQ(e.mode, 2);
+  for (int r = 1; r <= 18; ++r) EXPECT_DOUBLE_EQ(e.cellValue(r), static_cast<float>(tinsethCurve()[r - 1])) << r;
+  EXPECT_EQ(e.cells[1], "7.2");
+  EXPECT_EQ(e.txtFactor, (std::array<std::string, 3>{"1.000", "0.000125", "0.030"}));
+  EXPECT_TRUE(e.factorLocked[0]);
+  EXPECT_EQ(e.factorMaxLength[1], 8);
+  EXPECT_DOUBLE_EQ(e.graphIncrement, 0.03);
+  EXPECT_EQ(e.lblBlue, "1.030");
+
+  e.cmdGaretz();
+  EXPECT_EQ(e.lblTitle, "Garetz");
+  EXPECT_EQ(e.mode, 1);
+  EXPECT_EQ(e.cells[2], "0.0");
+  EXPECT_EQ(e.cells[11], "24.5");
+  EXPECT_EQ(e.txtFactor, (std::array<std::string, 3>{"1.050", "0.200", "0.020"}));
+  EXPECT_EQ(e.factorMaxLength[1], 5);
+
+  e.cmdReset();
+  EXPECT_EQ(e.lblTitle, "None");
+  EXPECT_EQ(e.mode, 0);
+  for (int r = 1; r <= 18; ++r) EXPECT_EQ(e.cells[r], "0.0") << r;
+  EXPECT_EQ(e.txtFactor, (std::array<std::string, 3>{"N/A", "N/A", "N/A"}));
+  EXPECT_FALSE(e.factorEnabled[1]);
+  EXPECT_EQ(e.lblBlue, "N/A");
+  EXPECT_EQ(e.graph.size(), 1u);  // the base curve only
+
+  e.cmdRager();
+  EXPECT_EQ(e.lblTitle, "Rager");
+  EXPECT_EQ(e.cells[18], "30.0");
+  EXPECT_EQ(e.cells[6], "15.3");
+}
+
+TEST(HopsEditor, FactorsAreMendedInAChain) {
+  HopsUtilizationEditor e = openedOnDefaults();
+  e.focusFactor(0);
+  e.setFactorText(0, "0");
+  e.validateFactor(0);
+  EXPECT_EQ(e.txtFactor[0], "1.000");
+  e.focusFactor(2);
+  e.setFactorText(2, "0");
+  e.validateFactor(2);  // 0 becomes 0.2, which as an increment is out of range
+  EXPECT_EQ(e.txtFactor[2], "0.020");
+  EXPECT_DOUBLE_EQ(e.graphIncrement, 0.02);
+  e.setFactorText(1, "-3");
+  e.validateFactor(1);
+  EXPECT_EQ(e.txtFactor[1], "0.200");
+  e.setFactorText(2, "0.05");
+  e.validateFactor(2);
+  EXPECT_EQ(e.txtFactor[2], "0.050");
+  EXPECT_DOUBLE_EQ(e.graphIncrement, 0.05);
+  e.setFactorText(0, "1.06");
+  e.validateFactor(0);
+  EXPECT_EQ(e.lblGravity[0], "(for gravities >= 1.060)");
+  EXPECT_EQ(e.lblTop[0], "(Gravity - 1.060)");
+  EXPECT_EQ(e.lblIncrement[0], "(graph by 0.050)");
+  EXPECT_EQ(e.lblBottom[0], "0.200");
+  EXPECT_EQ(e.lblBlue, "1.110");
+  EXPECT_EQ(e.lblTitle, "Rager");  // factors do not make the curve custom
+
+  e.cmdTinseth();
+  e.setFactorText(1, "0");
+  e.validateFactor(1);
+  EXPECT_EQ(e.txtFactor[1], "0.000125");
+  EXPECT_EQ(e.lblBottom[1], "0.000125");
+  e.setFactorText(1, "0.0002");
+  EXPECT_EQ(e.lblBottom[1], "0.000200");
+  EXPECT_EQ(e.lblBottom[0], "0.200");  // the other mode's copy is left alone
+}
+
+TEST(HopsEditor, GraphPointsOfEachCurve) {
+  HopsUtilizationEditor e = openedOnDefaults();
+  ASSERT_EQ(e.graph.size(), 3u);
+  EXPECT_EQ(e.graph[0].heights[0], 2160);   // 2400 - 5.0 * 48
+  EXPECT_EQ(e.graph[0].heights[3], 1916);   // 2400 - Int(484.8)
+  EXPECT_EQ(e.graph[0].heights[17], 960);   // 30 %
+  EXPECT_EQ(e.graph[1].label, "1.070");
+  EXPECT_EQ(e.graph[1].heights[0], 2182);   // 2400 - Int(240 / 1.1)
+  // 240 / 1.2 would be 200, but 1.090 - 1.050 comes out a hair above 0.04: Int(199.99...).
+  EXPECT_EQ(e.graph[2].heights[0], 2201);
+  e.cmdTinseth();
+  ASSERT_EQ(e.graph.size(), 3u);
+  EXPECT_EQ(e.graph[0].heights[0], 2055);   // 2400 - Int(345.6)
+  EXPECT_EQ(e.graph[1].heights[0], 2137);   // 2400 - Int(345.6 * 0.000125 ^ 0.03) = 2400 - 263
+  e.cmdRager();
+  e.setFactorText(1, "0");  // typed, not yet mended
+  EXPECT_TRUE(e.graphPoints().empty());
+  e.redrawGraph();
+  EXPECT_EQ(e.graphError, "ERROR: Invalid Factor Value Entered");
+}
+
+TEST(HopsEditor, AcceptStoresEverythingCancelNothing) {
+  MemorySettingsStore s;
+  HopsUtilization h;
+  LoadHopsUtilization(h, s);
+  HopsUtilizationEditor e;
+  e.load(h);
+  e.editCell(3, "12");
+  e.setFactorText(0, "1.06");
+  e.validateFactor(0);
+  // Cancel: the window is dropped, nothing reaches the state or the settings.
+  EXPECT_EQ(s.writeCount, 0);
+  EXPECT_EQ(h.UtilTable[3], 8.0);
+  EXPECT_EQ(h.UtilTitle, "Rager");
+  EXPECT_DOUBLE_EQ(h.lookupUtilization(15), 0.08);
+
+  e.saveHopsUtilization(h, s);
+  EXPECT_EQ(h.UtilTitle, "Custom Utilization Curve");
+  EXPECT_EQ(h.UtilTable[4], 12.0);
+  EXPECT_DOUBLE_EQ(h.Factor1, 1.06);
+  EXPECT_DOUBLE_EQ(h.lookupUtilization(17.5), 0.12);  // derived arrays rebuilt
+  EXPECT_EQ(s.read(S, "Title", "?"), "Custom Utilization Curve");
+  EXPECT_EQ(s.read(S, "Utilization 3", "?"), "12");
+  EXPECT_EQ(s.read(S, "Utilization 4", "?"), "12");
+  EXPECT_EQ(s.read(S, "Utilization 6", "?"), "15.3");
+  EXPECT_EQ(s.read(S, "Gravity Adjustment", "?"), "1");
+  EXPECT_EQ(s.read(S, "Factor 1", "?"), "1.06");
+  EXPECT_EQ(s.read(S, "Factor 2", "?"), "0.2");
+  EXPECT_EQ(s.read(S, "Factor 3", "?"), "0.02");
+  EXPECT_EQ(s.writeCount, 23);
+
+  HopsUtilization again;
+  LoadHopsUtilization(again, s);
+  EXPECT_EQ(again.UtilTable, h.UtilTable);
+  EXPECT_EQ(again.UtilTitle, h.UtilTitle);
+
+  // Mode 0: the boxes read "N/A", the factors become 0.
+  e.cmdReset();
+  e.saveHopsUtilization(h, s);
+  EXPECT_EQ(h.GravityAdjustment, 0);
+  EXPECT_EQ(h.Factor1, 0.0);
+  EXPECT_EQ(s.read(S, "Factor 2", "?"), "0");
+  EXPECT_EQ(h.lookupUtilization(60), 0.0);
+}
+
+}  // namespace
+}  // namespace zy

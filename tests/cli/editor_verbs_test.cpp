@@ -1,0 +1,103 @@
+#include <gtest/gtest.h>
+
+#include "cli/CliRunner.h"
+#include "core/measures.h"
+#include "recipes/RecipeStore.h"
+#include "styles/StyleStore.h"
+
+using namespace zy;
+using namespace zy::test;
+
+namespace {
+// Writes the data files of the command line's program folder through the stores.
+struct Files {
+  CliHome home;
+  MemorySettingsStore settings;
+  ScriptedPrompter prompter;
+  FixedClock clock{46000.0};
+  Workbench wb{home.dir.path(), settings, prompter, clock};
+
+  Files() {
+    wb.errors.setTerminationHook([](int n) { throw Terminated(n); });
+    StyleTables& t = wb.styles;
+    t.BeerCategories[0].category = "Amber Ales";
+    t.BeerCategoryCount = 1;
+    auto style = [&](int row, const char* name, double og1, double og2, double ibu1, double ibu2) {
+      BeerStyleRecord& s = t.BeerStyles[static_cast<size_t>(row)];
+      s.source = STYLE_SOURCE_BJCP;
+      s.styleName = name;
+      s.ogLow = og1, s.ogHigh = og2, s.fgLow = 1.008, s.fgHigh = 1.016;
+      s.ibuLow = ibu1, s.ibuHigh = ibu2, s.srmLow = 10, s.srmHigh = 17, s.alcoholLow = 4.5, s.alcoholHigh = 5.7;
+    };
+    style(0, "American Amber Ale", 1.043, 1.056, 20, 40);
+    style(1, "Hoppy Amber", 1.045, 1.060, 32, 50);   // IBU 30 is a near miss
+    style(2, "Big Amber", 1.080, 1.100, 20, 40);     // OG far too low
+    t.BeerStyleCount = 3;
+    EXPECT_TRUE(saveBeerStyles(wb));
+  }
+
+  void recipe(int no, const std::string& style) {
+    newRecipeRecord(wb);
+    CurrentRecipe& c = wb.recipe;
+    c.rec.recipeNo = no;
+    c.rec.recipeName = "Amber";
+    c.rec.beerStyle = style;
+    c.rec.volumeUnits = US_GAL_CONST;
+    c.rec.fermentVolume = 5;
+    c.rec.boilVolume = 5;
+    c.rec.mashType = 2;
+    c.rec.mashEfficiency = 75;
+    auto item = [&](int k, int kind, const char* name, double q, int u, double cost, double rating, double detail,
+                    int mash) {
+      RecipeItemRecord& it = c.items[static_cast<size_t>(k)];
+      it.itemKind = kind, it.itemName = name, it.quantity = q, it.quantityUnits = u, it.unitCost = cost;
+      it.rating = rating, it.detail = detail, it.mashFlag = mash;
+    };
+    item(0, KIND_MALT, "Pale Malt", 8, UNIT_LBS, 1.10, 1.036, 3, -1);
+    item(1, KIND_MALT, "Crystal 60", 1, UNIT_LBS, 1.60, 1.034, 60, 0);
+    item(2, KIND_HOPS, "Cascade", 1, UNIT_OZ, 1.25, 5.5, 60, 0);
+    item(3, KIND_HOPS, "Centennial", 0.5, UNIT_OZ, 1.50, 10.0, 15, 0);
+    item(4, KIND_OTHER, "Irish Moss", 1, 5, 0.35, 0, 0, 0);
+    item(5, KIND_YEAST, "American Ale", 1, 0, 4.99, 0.75, 0, 0);
+    c.rec.itemCount = 6;
+    ASSERT_TRUE(saveCurrentRecipe(wb));
+  }
+};
+}  // namespace
+
+TEST(EditorVerbs, CalcPrintsWhatTheEditorShows) {
+  Files f;
+  f.recipe(1, "Hoppy Amber");
+  f.recipe(2, "Martian Red");
+  CliResult r = f.home.run({"calc", "1"});
+  EXPECT_EQ(r.status, 0);
+  EXPECT_EQ(r.out,
+            "Color=15.8\nOG=1.053\nFG=1.013\nAlcohol=5.3\nIBU=30\nCost=$17.74\n"
+            "TargetOG=OK green\nTargetFG=OK green\nTargetIBU=Low yellow\nTargetColor=OK green\n"
+            "TargetAlcohol=OK green\nStyle=Hoppy Amber\nColorSample=144,73,47\n");
+  EXPECT_EQ(r.err, "");
+
+  r = f.home.run({"calc", "2"});
+  EXPECT_EQ(r.status, 0);
+  EXPECT_NE(r.out.find("TargetOG=N/A none\n"), std::string::npos);
+  EXPECT_NE(r.out.find("Style=<Not A Recognized Beer Style>\n"), std::string::npos);
+  EXPECT_EQ(r.err, "[Unknown Beer Style] Beer Style 'Martian Red' is Not Recognized by Zythara\n");
+
+  r = f.home.run({"calc", "3"});  // no such record
+  EXPECT_EQ(r.status, 1);
+  EXPECT_EQ(r.out, "");
+  EXPECT_NE(r.err.find("Corrupted Recipe Record in "), std::string::npos);
+  EXPECT_EQ(f.home.run({"calc"}).status, 2);
+  EXPECT_EQ(f.home.run({"calc", "x"}).status, 2);
+}
+
+TEST(EditorVerbs, MatchListsEveryStyleWithoutAFullMiss) {
+  Files f;
+  f.recipe(1, "");
+  CliResult r = f.home.run({"match", "1"});
+  EXPECT_EQ(r.status, 0);
+  EXPECT_EQ(r.out,
+            "Beer Style\tO.G.\tF.G.\tBitter\tColor\tAlc %\n"
+            "American Amber Ale\tOK\tOK\tOK\tOK\tOK\n"
+            "Hoppy Amber\tOK\tOK\tLow\tOK\tOK\n");
+}

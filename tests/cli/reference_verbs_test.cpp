@@ -1,0 +1,134 @@
+// The command line verbs over the encyclopedia, backup, restore and the update check.
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <filesystem>
+
+#include "app/cli/Cli.h"
+#include "reference/ReferenceBuild.h"
+#include "support/TestSupport.h"
+
+namespace zy::test {
+namespace {
+
+struct CliRun {
+  int status;
+  std::string out, err;
+};
+
+CliRun cli(const std::string& home, const std::string& settings, std::vector<std::string> args) {
+  std::vector<std::string> argv = {"--home", home, "--settings", settings};
+  argv.insert(argv.end(), args.begin(), args.end());
+  std::FILE* out = std::tmpfile();
+  std::FILE* err = std::tmpfile();
+  CliRun r;
+  r.status = cli::run(argv, out, err);
+  auto slurp = [](std::FILE* f) {
+    std::string s;
+    std::rewind(f);
+    char buf[4096];
+    size_t n;
+    while ((n = std::fread(buf, 1, sizeof buf, f)) > 0) s.append(buf, n);
+    std::fclose(f);
+    return s;
+  };
+  r.out = slurp(out);
+  r.err = slurp(err);
+  return r;
+}
+
+TopicSource t(const std::string& title, const std::string& index, const std::string& body, int images = 0) {
+  TopicSource s;
+  s.sourceFile = index + ".txt";
+  s.title = title;
+  s.indexTitle = index;
+  s.body = body;
+  for (int i = 0; i < images; ++i) {
+    std::string name = "p";
+    name += std::to_string(i);
+    name += ".png";
+    s.images.push_back({name, "Caf\xE9"});
+  }
+  return s;
+}
+
+struct Home {
+  Home() {
+    BookSource b;
+    b.sourceFile = "b.txt";
+    b.name = "Basics";
+    b.description = "<P>d</P>";
+    b.chapters = {{"Start", "Malt"}, {"Then", "Hops"}};
+    BuildReport r = buildReference({t("Malted Barley", "Malt", "<P>Grain.</P>"), t("Hops", "Hops", "<P>Bitter ibu.</P>", 1)},
+                                   {b}, dir.file("Reference"));
+    EXPECT_TRUE(r.ok());
+  }
+  CliRun operator()(std::vector<std::string> args) { return cli(dir.path(), dir.file("z.ini"), std::move(args)); }
+  TempFolder dir;
+};
+
+TEST(ReferenceVerbs, TopicsTopicSearchAndBooks) {
+  Home h;
+  CliRun r = h({"topics"});
+  EXPECT_EQ(r.status, 0);
+  EXPECT_EQ(r.out, "Hops\nMalt\n");
+  r = h({"topic", "MALT"});
+  EXPECT_EQ(r.status, 0);
+  EXPECT_EQ(r.out.substr(0, 29), "<H1>Malted Barley</H1>\r\n<P>Gr");
+  r = h({"topic", "hops"});
+  EXPECT_NE(r.out.find("<B>Caf\xC3\xA9</B>"), std::string::npos);  // 8-bit text leaves as UTF-8
+  r = h({"topic", "Water"});
+  EXPECT_EQ(r.status, 1);
+  EXPECT_EQ(r.out, "");
+  r = h({"search", "IBU"});
+  EXPECT_EQ(r.out, "1 Found\nHops\n");
+  r = h({"search", "01"});  // the image-count digits
+  EXPECT_EQ(r.out, "1 Found\nHops\n");
+  r = h({"search", "lager"});
+  EXPECT_EQ(r.out, "None Found\n");
+  r = h({"search", " "});
+  EXPECT_EQ(r.status, 1);
+  EXPECT_EQ(r.err, "[Topic Search] Nothing Entered for Searching\n");
+  r = h({"books"});
+  EXPECT_EQ(r.out, "Basics\n  Start\n  Then\n");
+  std::filesystem::remove(h.dir.file("Reference/Zyth.enc"));
+  r = h({"topics"});
+  EXPECT_EQ(r.status, 3);
+  EXPECT_EQ(r.err, "[Terminating] " + h.dir.path() + "/Reference/Zyth.enc Not Found in frmMain!Form_Load\n");
+}
+
+TEST(ReferenceVerbs, BackupRestoreAndCheckUpdate) {
+  Home h;
+  std::filesystem::create_directories(h.dir.file("Data"));
+  writeFile(h.dir.file("Data/ZYRecipe.dat"), "recipes");
+  CliRun r = h({"backup", h.dir.file("bk")});
+  EXPECT_EQ(r.status, 0);
+  EXPECT_EQ(r.err, "[Backup Zythara Databases] The Full Database Backup Has Completed Successfully\n");
+  EXPECT_EQ(readFile(h.dir.file("bk/ZYRecipe.dat")), "recipes");
+  r = h({"--no", "backup", h.dir.file("bk")});
+  EXPECT_EQ(r.err, "[Backup Zythara Databases] Backup files already exist in this folder.  Overwrite them?\n"
+                   "[Backup Zythara Databases] Zythara Database Backup Canceled\n");
+
+  writeFile(h.dir.file("Data/ZYRecipe.dat"), "changed");
+  r = h({"restore", h.dir.file("bk")});
+  EXPECT_EQ(r.status, 0);
+  EXPECT_EQ(readFile(h.dir.file("Data/ZYRecipe.dat")), "recipes");
+  r = h({"restore", h.dir.file("nothing")});
+  EXPECT_EQ(r.status, 1);
+  EXPECT_EQ(r.err, "[Restore All Zythara Databases] No Backup Files in this Folder, Be Sure to Double-Click the "
+                   "Desired Folder\n");
+  EXPECT_EQ(h({"restore"}).status, 2);
+
+  writeFile(h.dir.file("z.ini"), "[Settings]\nCheck Update=12/31/2099\n");
+  r = h({"check-update", "http://127.0.0.1:1/ZYCurrent.ver"});
+  EXPECT_EQ(r.out, "not due\n");
+  writeFile(h.dir.file("z.ini"), "[Settings]\nCheck Update=1/1/2007\n");
+  r = h({"check-update", "http://127.0.0.1:1/ZYCurrent.ver"});
+  EXPECT_EQ(r.status, 0);
+  EXPECT_EQ(r.out, "unavailable\n");
+  EXPECT_EQ(r.err, "");
+  EXPECT_EQ(readFile(h.dir.file("z.ini")).find("1/1/2007"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace zy::test

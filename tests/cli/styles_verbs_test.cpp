@@ -1,0 +1,76 @@
+// The styles, style-stats and hops verbs over hand-made style files and settings.
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "cli/CliRunner.h"
+#include "styles/StyleStore.h"
+
+namespace zy {
+namespace {
+
+void writeTwoStyles(const test::CliHome& home) {
+  auto t = std::make_unique<StyleTables>();
+  t->BeerCategories[0].id = "5";
+  t->BeerCategories[0].category = "Pale Bitter European Beer";
+  t->BeerCategories[0].source = STYLE_SOURCE_BJCP;
+  t->BeerCategoryCount = 1;
+  t->BeerStyles[0].styleName = "K\xF6lsch";
+  t->BeerStyles[0].styleId = "5B";
+  t->BeerStyles[0].source = STYLE_SOURCE_BJCP;
+  t->BeerStyles[0].categoryIndex = 0;
+  t->BeerStyles[1].styleName = "House Ale";
+  t->BeerStyles[1].categoryIndex = 4;  // no such category
+  t->BeerStyleCount = 2;
+  writeStyleFiles(*t, home.data(kCategoryFile), home.data(kStyleFile));
+}
+
+TEST(StylesVerbs, StylesAndStatisticsLines) {
+  test::CliHome home;
+  writeTwoStyles(home);
+  auto r = home.run({"styles"});
+  EXPECT_EQ(r.status, 0);
+  EXPECT_EQ(r.out, "0\tBJCP\t5B\tK\xC3\xB6lsch\t5 Pale Bitter European Beer\n1\tCustom\t\tHouse Ale\t<None>\n");
+  EXPECT_EQ(r.err, "");
+
+  r = home.run({"style-stats"});
+  EXPECT_EQ(r.status, 0);
+  EXPECT_EQ(r.out,
+            "Number of Beer Categories Loaded: 1\nTotal Number of Beer Styles Loaded: 2\n"
+            "Custom Beer Styles Loaded: 1\nAOB Beer Styles Loaded: 0\nBJCP Beer Styles Loaded: 1\n");
+
+  EXPECT_EQ(home.run({"styles", "extra"}).status, 2);
+}
+
+TEST(StylesVerbs, CorruptedStyleFileIsReportedOnStandardError) {
+  test::CliHome home;
+  writeTwoStyles(home);
+  std::string bytes = test::readFile(home.data(kStyleFile));
+  bytes[0] = 'x';
+  test::writeFile(home.data(kStyleFile), bytes);
+  auto r = home.run({"style-stats"});
+  EXPECT_EQ(r.status, 1);
+  EXPECT_NE(r.err.find("[Error] Corrupted Beer Style Record(s) in "), std::string::npos);
+  EXPECT_NE(r.out.find("Total Number of Beer Styles Loaded: 2\n"), std::string::npos);
+}
+
+TEST(StylesVerbs, HopsShowsTheCurveInUse) {
+  test::CliHome home;
+  auto r = home.run({"hops"});
+  EXPECT_EQ(r.status, 0);
+  const std::string head = "Title: Rager\nGravity Adjustment: 1\nFactor 1: 1.050\nFactor 2: 0.200\nFactor 3: 0.020\n5\t5.0\n10\t6.0\n";
+  EXPECT_EQ(r.out.substr(0, head.size()), head);
+  EXPECT_NE(r.out.find("\n90\t30.0\n"), std::string::npos);
+
+  test::writeFile(home.dir.file("settings.ini"),
+                  "[Hops Utilization]\nTitle=Tinseth\nGravity Adjustment=2\nFactor 1=1\nFactor 2=0.000125\n"
+                  "Factor 3=0.03\nUtilization 18=38.7\n");
+  r = home.run({"hops"});
+  const std::string tinseth =
+      "Title: Tinseth\nGravity Adjustment: 2\nFactor 1: 1.000\nFactor 2: 0.000125\nFactor 3: 0.030\n5\t5.0\n";
+  EXPECT_EQ(r.out.substr(0, tinseth.size()), tinseth);
+  EXPECT_NE(r.out.find("\n90\t38.7\n"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace zy

@@ -1,0 +1,351 @@
+#include <gtest/gtest.h>
+
+#include "core/measures.h"
+#include "recipes/RecipeCalculations.h"
+#include "recipes/RecipeEditor.h"
+#include "support/TestSupport.h"
+
+using namespace zy;
+using namespace zy::test;
+
+namespace {
+// An editor over a fresh workbench, volumes in US gallons, efficiency 80, no style.
+struct Calc {
+  Bench b;
+  Workbench& wb = *b.wb;
+  RecipeEditor e{wb};
+  RecipeSheet& s = e.sheet;
+  Calc(const std::string& ferment = "1", const std::string& boil = "1") {
+    wb.recipe.rec.volumeUnits = US_GAL_CONST;
+    wb.recipe.rec.mashEfficiency = 80;
+    s.txtFermentVolume = ferment;
+    s.txtInitalBoilVolume = boil;
+  }
+  void malt(double lbs, double extract, double color, bool mashed = false, int unit = UNIT_LBS, double cost = 0) {
+    e.AddIngredient(KIND_MALT, "Malt", lbs, unit, cost, extract, color, mashed ? -1 : 0);
+  }
+  void hops(double oz, double alpha, double minutes, int unit = UNIT_OZ, double cost = 0) {
+    e.AddIngredient(KIND_HOPS, "Hops", oz, unit, cost, alpha, minutes, 0);
+  }
+  void yeast(double attenuation) { e.AddIngredient(KIND_YEAST, "Yeast", 1, 0, 0, attenuation, 0, 0); }
+  void color() { computeRecipeColor(wb, s); }
+  void bitterness() { computeRecipeBitterness(wb, s); }
+  size_t tooBitterMessages() const {
+    size_t n = 0;
+    for (const ShownMessage& m : b.prompter.shown)
+      if (m.text == kTooBitterMessage) ++n;
+    return n;
+  }
+};
+}  // namespace
+
+TEST(RecipeCalculations, GravityColourAndAlcoholOfOnePoundInOneGallon) {
+  Calc c;
+  c.malt(1, 1.036, 4.0);
+  c.yeast(0.75);
+  c.color();
+  EXPECT_EQ(c.s.lblOG, "1.036");
+  EXPECT_EQ(c.s.lblFG, "1.009");
+  EXPECT_EQ(c.s.lblAlcohol, "3.6");  // (0.036 - 0.009) * 132.5 = 3.5775
+  EXPECT_EQ(c.s.lblColor, "4.0");
+  EXPECT_NEAR(c.s.ogPoints, 0.036, 1e-12);
+
+  // Ounces count by the weight table, and a second gallon halves everything.
+  Calc d("2");
+  d.malt(32, 1.036, 4.0, false, UNIT_OZ);
+  d.yeast(0.75);
+  d.color();
+  EXPECT_EQ(d.s.lblOG, "1.036");
+  EXPECT_EQ(d.s.lblColor, "4.0");
+}
+
+TEST(RecipeCalculations, MashEfficiencyThinsExtractAndColourOfMashedMaltsOnly) {
+  Calc c;
+  c.malt(1, 1.036, 10.0, true);
+  c.color();
+  EXPECT_EQ(c.s.lblOG, "1.029");   // 1.0288
+  EXPECT_EQ(c.s.lblColor, "8.0");  // 80 percent of 10
+  EXPECT_NEAR(c.s.ogPoints, 0.0288, 1e-12);
+
+  Calc u;
+  u.malt(1, 1.036, 10.0, false);
+  u.color();
+  EXPECT_EQ(u.s.lblOG, "1.036");
+  EXPECT_EQ(u.s.lblColor, "10.0");
+
+  // Rows with no quantity take no part; a malt of zero colour gives "N/A" colour.
+  Calc z;
+  z.malt(0, 1.5, 500);
+  z.malt(1, 1.036, 0);
+  z.color();
+  EXPECT_EQ(z.s.lblColor, "N/A");
+  EXPECT_EQ(z.s.lblOG, "1.036");
+}
+
+TEST(RecipeCalculations, YeastAttenuationOutsideHalfToNinetyFivePercentTakesTheDefault) {
+  auto fgWith = [](std::vector<double> attenuations) {
+    Calc c;
+    c.malt(1, 1.036, 4.0);
+    for (double a : attenuations) c.yeast(a);
+    c.color();
+    return c.s.lblFG;
+  };
+  EXPECT_EQ(fgWith({0.40}), "1.010");  // default 0.72: 0.036 * 0.28 = 0.01008
+  EXPECT_EQ(fgWith({0.97}), "1.010");
+  EXPECT_EQ(fgWith({}), "1.010");      // no yeast at all
+  EXPECT_EQ(fgWith({0.95}), "1.002");  // 0.0018: exactly 95 is used
+  EXPECT_EQ(fgWith({0.50}), "1.018");  // exactly 50 is used
+  EXPECT_EQ(fgWith({0.60, 0.75}), "1.009");  // the highest wins, wherever it stands
+  EXPECT_EQ(fgWith({0.75, 0.60}), "1.009");
+
+  // A changed default follows.
+  Calc c;
+  c.wb.defaults.yeastAttenuation = 0.5;
+  c.malt(1, 1.036, 4.0);
+  c.color();
+  EXPECT_EQ(c.s.lblFG, "1.018");
+}
+
+TEST(RecipeCalculations, GravityAbove1200OrZeroShowsNotAvailableButColourStays) {
+  Calc c;
+  c.malt(7, 1.036, 4.0);  // 0.252 points
+  c.color();
+  EXPECT_EQ(c.s.lblOG, "N/A");
+  EXPECT_EQ(c.s.lblFG, "N/A");
+  EXPECT_EQ(c.s.lblAlcohol, "N/A");
+  EXPECT_EQ(c.s.lblColor, "28.0");
+
+  Calc n;  // no malts
+  n.yeast(0.75);
+  n.color();
+  EXPECT_EQ(n.s.lblOG, "N/A");
+  EXPECT_EQ(n.s.lblColor, "N/A");
+}
+
+TEST(RecipeCalculations, ZeroFermenterVolumeKeepsTheStaleGravityForBitterness) {
+  Calc c("5", "5");
+  c.malt(10, 1.040, 4.0);  // 0.080 points in 5 gallons
+  c.color();
+  EXPECT_NEAR(c.s.ogPoints, 0.08, 1e-12);
+  c.s.txtFermentVolume = "0";
+  c.color();
+  EXPECT_EQ(c.s.lblOG, "N/A");
+  EXPECT_EQ(c.s.lblColor, "N/A");
+  EXPECT_NEAR(c.s.ogPoints, 0.08, 1e-12);  // kept
+  c.bitterness();
+  EXPECT_EQ(c.s.lblIBU, "N/A");
+
+  // Back to a valid volume, bitterness alone still works from the stale 0.080: with Rager mode
+  // at the defaults the divisor is (0.08 * 10/5 + 1 - 1.05) / 0.2 + 1 = 1.55.
+  c.hops(1, 10.0, 60);
+  c.s.txtFermentVolume = "10";
+  c.bitterness();
+  EXPECT_EQ(c.s.lblIBU, "14");  // 1 * 0.3 * 0.1 * 7490 / (10 * 1.55) = 14.497
+}
+
+TEST(RecipeCalculations, BitternessFollowsTheUtilizationCurveAndGravityDivisor) {
+  Calc c("5", "5");
+  c.hops(1, 10.0, 60);
+  c.bitterness();
+  EXPECT_EQ(c.s.lblIBU, "45");  // 1 * 0.30 * 0.10 * 7490 / 5 = 44.94
+
+  // A pound of hops counts as 16 ounces.
+  Calc p("5", "5");
+  p.hops(1, 10.0, 60, UNIT_LBS);
+  p.bitterness();
+  EXPECT_EQ(p.s.lblIBU, "719");
+
+  // Row 18 from 90 minutes on; 89 minutes still interpolates between rows 17 and 18.
+  auto ibuAt = [](double minutes) {
+    Calc h;
+    h.wb.hops.UtilTable[18] = 35.0;
+    h.wb.hops.rebuildDerived();
+    h.hops(1, 10.0, minutes);
+    h.bitterness();
+    return h.s.lblIBU;
+  };
+  EXPECT_EQ(ibuAt(90), "262");   // 0.35 * 0.1 * 7490 = 262.15
+  EXPECT_EQ(ibuAt(240), "262");
+  EXPECT_EQ(ibuAt(89), "255");   // (4 * 1.0 + 30) / 100 -> 254.66
+  EXPECT_EQ(ibuAt(0), "N/A");    // no utilization, so no bitterness at all
+
+  // A boil volume of zero shows "N/A" while the gravity still shows.
+  Calc z("1", "0");
+  z.malt(1, 1.036, 4.0);
+  z.hops(1, 10.0, 60);
+  z.color();
+  z.bitterness();
+  EXPECT_EQ(z.s.lblIBU, "N/A");
+  EXPECT_EQ(z.s.lblOG, "1.036");
+
+  // A boil of half the fermenter volume doubles the boil gravity: 1.050 finished boils at 1.100,
+  // divisor (0.1 + 1 - 1.05) / 0.2 + 1 = 1.25.
+  Calc g("5", "2.5");
+  g.malt(6.25, 1.040, 2.0);  // 0.05 points
+  g.hops(1, 10.0, 60);
+  g.color();
+  g.bitterness();
+  EXPECT_EQ(g.s.lblIBU, "36");  // 44.94 / 1.25 = 35.95
+  g.wb.hops.GravityAdjustment = GRAVITY_ADJUST_NONE;
+  g.bitterness();
+  EXPECT_EQ(g.s.lblIBU, "45");
+}
+
+TEST(RecipeCalculations, TooBitterMessageOnlyAbove300) {
+  // 4 oz at 30 percent utilization and 25 percent alpha in 7.49 gallons: exactly 300.
+  Calc c("7.49", "7.49");
+  c.hops(4, 25.0, 60);
+  c.bitterness();
+  EXPECT_EQ(c.s.lblIBU, "300");
+  EXPECT_EQ(c.tooBitterMessages(), 0u);
+
+  Calc d("7.49", "7.49");
+  d.hops(4, 25.1, 60);  // 301.2
+  d.bitterness();
+  EXPECT_EQ(d.s.lblIBU, "301");
+  ASSERT_EQ(d.tooBitterMessages(), 1u);
+  const ShownMessage& m = d.b.prompter.shown.back();
+  EXPECT_EQ(m.text, "Do you actually think anyone\n  will drink a brew this bitter?");
+  EXPECT_EQ(m.icon, Icon::Question);
+  EXPECT_EQ(m.buttons, Buttons::OK);
+  EXPECT_EQ(d.s.lblIBU, "301");  // the message changes nothing
+}
+
+TEST(RecipeCalculations, CostSumsEveryItemRowInItsOwnUnit) {
+  Calc c;
+  EXPECT_EQ(c.s.grid.cell(c.s.grid.totalRow(), COL_COST), "$0.00");
+  EXPECT_EQ(c.s.grid.cell(c.s.grid.totalRow(), 0), "Estimated Total Cost");
+  c.malt(2, 1.036, 4, false, UNIT_LBS, 1.60);
+  c.hops(1.5, 5.5, 60, UNIT_OZ, 1.25);
+  c.e.AddIngredient(KIND_OTHER, "Irish Moss", 1, 5, 0.35, 0, 0, 0);
+  c.e.AddIngredient(KIND_YEAST, "Ale Yeast", 1, 0, 4.99, 0.75, 0, 0);
+  computeRecipeCost(c.wb, c.s);
+  EXPECT_NEAR(c.s.totalCost, 3.2 + 1.875 + 0.35 + 4.99, 1e-9);
+  EXPECT_EQ(c.s.grid.cell(c.s.grid.totalRow(), COL_COST), "$10.42");  // 10.415 rounds up
+  EXPECT_DOUBLE_EQ(moneyValue("$1,234.50"), 1234.5);
+  EXPECT_DOUBLE_EQ(moneyValue("($1.25)"), -1.25);
+  EXPECT_DOUBLE_EQ(moneyValue("abc"), 0.0);
+}
+
+TEST(RecipeCalculations, StyleIndicatorsAtTheirLimits) {
+  Calc c;
+  BeerStyleRecord st;
+  st.styleName = "Test Ale";
+  st.ogLow = 1.045, st.ogHigh = 1.055, st.fgLow = 1.010, st.fgHigh = 1.014;
+  st.ibuLow = 20, st.ibuHigh = 30, st.srmLow = 10, st.srmHigh = 20, st.alcoholLow = 4, st.alcoholHigh = 5;
+  c.wb.styles.BeerStyles[0] = st;
+  c.wb.styles.BeerStyleCount = 1;
+
+  // Without a style every flag reads "N/A" with no colour, and Details is off.
+  c.s.lblOG = "1.040";
+  updateStyleFlags(c.wb, c.s);
+  for (const TargetLabel& t : c.s.targets) {
+    EXPECT_EQ(t.text, "N/A");
+    EXPECT_EQ(t.colour, TargetColour::None);
+  }
+  EXPECT_FALSE(c.s.cmdDetailsEnabled);
+
+  c.wb.styles.CurrentStyleIndex = 0;
+  auto flag = [&](TargetIndex i, std::string RecipeSheet::*field, const std::string& value) {
+    c.s.lblOG = "1.050", c.s.lblFG = "1.012", c.s.lblIBU = "25", c.s.lblColor = "15.0", c.s.lblAlcohol = "4.5";
+    c.s.*field = value;
+    updateStyleFlags(c.wb, c.s);
+    return c.s.targets[i].text + " " + targetColourWord(c.s.targets[i].colour);
+  };
+  // Gravities measure their margin from 0.9: the lower limit of 1.045 is 1.0305.
+  EXPECT_EQ(flag(TARGET_OG, &RecipeSheet::lblOG, "1.045"), "OK green");
+  EXPECT_EQ(flag(TARGET_OG, &RecipeSheet::lblOG, "1.055"), "OK green");
+  EXPECT_EQ(flag(TARGET_OG, &RecipeSheet::lblOG, "1.040"), "Low yellow");
+  EXPECT_EQ(flag(TARGET_OG, &RecipeSheet::lblOG, "1.030"), "Low red");
+  EXPECT_EQ(flag(TARGET_OG, &RecipeSheet::lblOG, "1.070"), "High yellow");  // limit 1.0705
+  EXPECT_EQ(flag(TARGET_OG, &RecipeSheet::lblOG, "1.071"), "High red");
+  EXPECT_EQ(flag(TARGET_OG, &RecipeSheet::lblOG, "N/A"), "Low red");  // counts as 0
+  EXPECT_EQ(flag(TARGET_FG, &RecipeSheet::lblFG, "1.009"), "Low yellow");
+  // The others are proportional: 18 is exactly the lower limit of 20, a near miss.
+  EXPECT_EQ(flag(TARGET_IBU, &RecipeSheet::lblIBU, "18"), "Low yellow");
+  EXPECT_EQ(flag(TARGET_IBU, &RecipeSheet::lblIBU, "17"), "Low red");
+  EXPECT_EQ(flag(TARGET_IBU, &RecipeSheet::lblIBU, "33"), "High yellow");
+  EXPECT_EQ(flag(TARGET_IBU, &RecipeSheet::lblIBU, "34"), "High red");
+  EXPECT_EQ(flag(TARGET_COLOR, &RecipeSheet::lblColor, "9.0"), "Low yellow");
+  EXPECT_EQ(flag(TARGET_COLOR, &RecipeSheet::lblColor, "22.1"), "High red");
+  EXPECT_EQ(flag(TARGET_ALCOHOL, &RecipeSheet::lblAlcohol, "5.5"), "High yellow");
+  EXPECT_EQ(flag(TARGET_ALCOHOL, &RecipeSheet::lblAlcohol, "3.5"), "Low red");
+  EXPECT_TRUE(c.s.cmdDetailsEnabled);
+}
+
+TEST(RecipeCalculations, ColourSampleInterpolatesAndClampsToTheTable) {
+  RecipeSheet s;
+  auto sample = [&](const std::string& color) {
+    s.lblColor = color;
+    updateColorSample(s);
+    return std::to_string(s.picColor.r) + "," + std::to_string(s.picColor.g) + "," + std::to_string(s.picColor.b);
+  };
+  EXPECT_EQ(sample("N/A"), "255,255,255");  // 0 clamps to row 1
+  EXPECT_EQ(sample("0.5"), "255,255,255");
+  EXPECT_EQ(sample("10.0"), "204,116,53");
+  EXPECT_EQ(sample("10.5"), "203,109,51");  // halfway to row 11 (202, 101, 49)
+  EXPECT_EQ(sample("2.2"), "254,252,184");
+  EXPECT_EQ(sample("26.0"), "40,15,0");
+  EXPECT_EQ(sample("40.0"), "40,15,0");  // clamped; row 27 is never read
+}
+
+TEST(RecipeCalculations, ExtractionPercentOfTheMaximum) {
+  EXPECT_EQ(lblExtPct(1.036), "(77%)");
+  EXPECT_EQ(lblExtPct(1.047), "(100%)");
+  EXPECT_EQ(lblExtPct(1.0), "(0%)");
+  EXPECT_EQ(lblExtPct(0.999), "(0%)");
+  EXPECT_EQ(lblExtPct(2.0), "(0%)");
+}
+
+TEST(RecipeCalculations, WhatRecomputesWhat) {
+  auto r = [](EditEvent e, int mode = 1) {
+    Recompute x = recomputeFor(e, mode);
+    return std::string(x.color ? "C" : "-") + (x.bitterness ? "B" : "-") + (x.cost ? "$" : "-");
+  };
+  EXPECT_EQ(r(EditEvent::Structure), "CB$");
+  EXPECT_EQ(r(EditEvent::MaltQuantity), "CB$");
+  EXPECT_EQ(r(EditEvent::MaltQuantity, 0), "C-$");
+  EXPECT_EQ(r(EditEvent::HopsQuantity), "-B$");
+  EXPECT_EQ(r(EditEvent::OtherQuantity), "--$");
+  EXPECT_EQ(r(EditEvent::MaltUnit), "C-$");
+  EXPECT_EQ(r(EditEvent::HopsUnit), "-B$");
+  EXPECT_EQ(r(EditEvent::Cost), "--$");
+  EXPECT_EQ(r(EditEvent::MaltRating), "C--");
+  EXPECT_EQ(r(EditEvent::HopsRating), "-B-");
+  EXPECT_EQ(r(EditEvent::YeastAttenuation), "C--");
+  EXPECT_EQ(r(EditEvent::MashFlag), "C--");
+  EXPECT_EQ(r(EditEvent::Volume), "-B-");
+}
+
+TEST(IngredientTable, SectionsAreFoundByColumnZero) {
+  IngredientTable t;
+  ASSERT_EQ(t.rowCount(), 5);
+  EXPECT_EQ(t.cell(0, 0), "-");
+  EXPECT_EQ(t.cell(0, 1), "Malts");
+  EXPECT_EQ(t.cell(1, 0), "Hops");
+  EXPECT_EQ(t.cell(1, 5), "Alpha %");
+  EXPECT_EQ(t.cell(2, 0), "Other Ingredients");
+  EXPECT_EQ(t.cell(3, 0), "Yeast");
+  EXPECT_EQ(t.cell(3, 5), "Attenuation");
+  EXPECT_EQ(t.cell(4, 0), "Estimated Total Cost");
+  EXPECT_EQ(t.itemCount(), 0);
+
+  const int y = t.insertItem(KIND_YEAST);
+  const int h = t.insertItem(KIND_HOPS);
+  const int m = t.insertItem(KIND_MALT);
+  EXPECT_EQ(y, 4);
+  EXPECT_EQ(h, 2);
+  EXPECT_EQ(m, 1);
+  EXPECT_EQ(t.headerRow(KIND_HOPS), 2);
+  EXPECT_EQ(t.sectionEnd(KIND_HOPS), 4);
+  EXPECT_EQ(t.kindOfRow(1), KIND_MALT);
+  EXPECT_EQ(t.kindOfRow(3), KIND_HOPS);
+  EXPECT_EQ(t.kindOfRow(6), KIND_YEAST);
+  EXPECT_EQ(t.kindOfRow(t.totalRow()), -1);
+  EXPECT_EQ(t.itemCount(KIND_OTHER), 0);
+  EXPECT_FALSE(t.removeRow(0));              // headers stay
+  EXPECT_FALSE(t.removeRow(t.totalRow()));   // and so does the total row
+  EXPECT_TRUE(t.removeRow(3));
+  EXPECT_EQ(t.itemCount(), 2);
+  EXPECT_EQ(t.cell(99, 1), "");
+}

@@ -1,0 +1,635 @@
+#include <gtest/gtest.h>
+
+#include "core/measures.h"
+#include "core/paths.h"
+#include "core/records.h"
+#include "core/text.h"
+#include "recipes/RecipeEditor.h"
+#include "recipes/RecipeStore.h"
+#include "support/TestSupport.h"
+
+using namespace zy;
+using namespace zy::test;
+
+namespace {
+RecipeItemRecord item(int kind, const std::string& name, double qty, int units, double cost, double rating,
+                      double detail, int mash = 0) {
+  RecipeItemRecord it;
+  it.itemKind = kind;
+  it.itemName = name;
+  it.quantity = qty;
+  it.quantityUnits = units;
+  it.unitCost = cost;
+  it.rating = rating;
+  it.detail = detail;
+  it.mashFlag = mash;
+  return it;
+}
+
+struct EditorBench {
+  Bench b;
+  Workbench& wb = *b.wb;
+  RecipeEditor e{wb};
+
+  EditorBench() {
+    BeerStyleRecord st;
+    st.styleName = "American Amber Ale";
+    st.ogLow = 1.043, st.ogHigh = 1.056, st.fgLow = 1.008, st.fgHigh = 1.016;
+    st.ibuLow = 20, st.ibuHigh = 40, st.srmLow = 10, st.srmHigh = 17, st.alcoholLow = 4.5, st.alcoholHigh = 5.7;
+    wb.styles.BeerStyles[0] = st;
+    wb.styles.BeerStyleCount = 1;
+    newRecipeRecord(wb);
+    e.initRecipeForm();
+  }
+
+  // Writes recipe `no`: an amber of 5 US gallons with a mashed malt, a crystal malt, two hops,
+  // an other ingredient and a yeast, plus the extra fields given.
+  void store(int no, const std::string& name, std::function<void(CurrentRecipe&)> extra = {}) {
+    newRecipeRecord(wb);
+    CurrentRecipe& cur = wb.recipe;
+    cur.rec.recipeNo = no;
+    cur.rec.recipeName = name;
+    cur.rec.beerStyle = "American Amber Ale";
+    cur.rec.volumeUnits = US_GAL_CONST;
+    cur.rec.fermentVolume = 5;
+    cur.rec.boilVolume = 5;
+    cur.rec.mashType = 2;
+    cur.rec.mashEfficiency = 75;  // opens as the default 80
+    cur.items[0] = item(KIND_MALT, "Pale Malt", 8, UNIT_LBS, 1.10, 1.036, 3, -1);
+    cur.items[1] = item(KIND_MALT, "Crystal 60", 1, UNIT_LBS, 1.60, 1.034, 60, 0);
+    cur.items[2] = item(KIND_HOPS, "Cascade", 1, UNIT_OZ, 1.25, 5.5, 60);
+    cur.items[3] = item(KIND_HOPS, "Centennial", 0.5, UNIT_OZ, 1.50, 10.0, 15);
+    cur.items[4] = item(KIND_OTHER, "Irish Moss", 1, 5, 0.35, 0, 0);
+    cur.items[5] = item(KIND_YEAST, "American Ale", 1, 0, 4.99, 0.75, 0);
+    cur.rec.itemCount = 6;
+    cur.comment = "A fine amber.";
+    if (extra) extra(cur);
+    ASSERT_TRUE(saveCurrentRecipe(wb));
+  }
+
+  std::string data(const char* name) const { return readFile(wb.folder.dataFile(name)); }
+  const ShownMessage* lastMessage() const { return b.prompter.shown.empty() ? nullptr : &b.prompter.shown.back(); }
+};
+}  // namespace
+
+TEST(RecipeEditor, PopulateShowsTheRecipeAndComputesIt) {
+  EditorBench t;
+  t.store(1, "Amber");
+  ASSERT_TRUE(t.e.openRecipe(1));
+  RecipeEditor& e = t.e;
+  const IngredientTable& g = e.sheet.grid;
+  EXPECT_EQ(e.txtTitle, "Amber");
+  EXPECT_EQ(e.cboBeerStyleText, "American Amber Ale");
+  EXPECT_EQ(t.wb.styles.CurrentStyleIndex, 0);
+  EXPECT_EQ(t.wb.recipeList.currentRecipeKey, "R1");
+  EXPECT_EQ(e.sheet.txtFermentVolume, "5.0");
+  EXPECT_EQ(e.sheet.txtInitalBoilVolume, "5.0");
+  EXPECT_EQ(e.lblVolumeUnits, "US Gallons");
+  EXPECT_EQ(e.lblUnitType, "US Measures");
+  EXPECT_EQ(e.lblMashType, "Infusion");
+  EXPECT_TRUE(e.mashInfoEnabled);
+  EXPECT_EQ(e.txtBoilTime, "60");
+  ASSERT_EQ(g.rowCount(), 11);
+  const std::vector<std::string> malt = {"", "Pale Malt", "8.0", "Lbs", "$1.10", "1.036", "3.0", "Yes"};
+  for (int c = 0; c < 8; ++c) EXPECT_EQ(g.cell(1, c), malt[static_cast<size_t>(c)]) << c;
+  EXPECT_EQ(g.cell(2, COL_MASH), "No");
+  EXPECT_EQ(g.cell(3, 0), "Hops");
+  const std::vector<std::string> hop = {"", "Centennial", "0.5", "Oz", "$1.50", "10.0", "15", ""};
+  for (int c = 0; c < 8; ++c) EXPECT_EQ(g.cell(5, c), hop[static_cast<size_t>(c)]) << c;
+  EXPECT_EQ(g.cell(6, 0), "Other Ingredients");
+  EXPECT_EQ(g.cell(7, COL_UNITS), "Tsp");
+  EXPECT_EQ(g.unitCode(7), 5);
+  EXPECT_EQ(g.cell(8, 0), "Yeast");
+  EXPECT_EQ(g.cell(9, COL_UNITS), "Packet");
+  EXPECT_EQ(g.cell(9, COL_RATING), "75");
+
+  // 8 lbs mashed at 80 percent and 1 lb of crystal in 5 gallons.
+  EXPECT_EQ(e.sheet.lblOG, "1.053");       // 0.05288
+  EXPECT_EQ(e.sheet.lblFG, "1.013");
+  EXPECT_EQ(e.sheet.lblAlcohol, "5.3");    // 5.25495
+  EXPECT_EQ(e.sheet.lblColor, "15.8");     // (3 * 8 * 0.8 + 60) / 5
+  EXPECT_EQ(e.sheet.lblIBU, "30");         // 24.37 + 5.91, divisor 1.0144
+  EXPECT_EQ(g.cell(g.totalRow(), COL_COST), "$17.74");
+  for (const TargetLabel& l : e.sheet.targets) EXPECT_EQ(l.text + targetColourWord(l.colour), "OKgreen");
+  EXPECT_EQ(e.comments.comment, "A fine amber.");
+  EXPECT_EQ(e.comments.dateCreated, "Nov-22-2026");
+
+  // A stored 75 opened as the default 80, and the recipe still counts as unchanged.
+  EXPECT_EQ(e.lblMashEff, "80");
+  EXPECT_DOUBLE_EQ(t.wb.recipe.rec.mashEfficiency, 80);
+  EXPECT_FALSE(e.recipeChanged());
+  EXPECT_EQ(e.saveButtonImage(), "Save");
+  EXPECT_EQ(e.saveButtonTip(), "Save Recipe");
+  EXPECT_TRUE(t.b.prompter.shown.empty());
+}
+
+TEST(RecipeEditor, EfficiencyReplacementTakesTheValueForAFraction) {
+  EditorBench t;
+  t.store(1, "Fraction", [](CurrentRecipe& c) { c.rec.mashEfficiency = 0.8; });
+  t.store(2, "No Mash", [](CurrentRecipe& c) {
+    c.rec.mashType = 0;
+    c.rec.mashEfficiency = 72;
+  });
+  ASSERT_TRUE(t.e.openRecipe(1));
+  EXPECT_EQ(t.e.lblMashEff, "1");  // 0.8 passes the check and stays
+  EXPECT_EQ(t.e.sheet.lblOG, "1.007");
+  ASSERT_TRUE(t.e.openRecipe(2));
+  EXPECT_EQ(t.e.lblMashEff, "N/A");
+  EXPECT_FALSE(t.e.mashInfoEnabled);
+  EXPECT_DOUBLE_EQ(t.wb.recipe.rec.mashEfficiency, 72);  // no mash: left alone, and still used
+  EXPECT_EQ(t.e.sheet.lblColor, "15.5");                // (3 * 8 * 0.72 + 60) / 5 = 15.456
+}
+
+TEST(RecipeEditor, SaveWritesTheTableBackUnchangedAndTheComputedValuesAsShown) {
+  EditorBench t;
+  t.store(1, "Amber");
+  const std::string items = t.data(kRecipeItemsFile), comments = t.data(kCommentFile);
+  ASSERT_TRUE(t.e.openRecipe(1));
+  t.e.recChanged();
+  ASSERT_TRUE(t.e.mnuFileSave_Click());
+  EXPECT_FALSE(t.e.recipeChanged());
+  EXPECT_EQ(t.data(kRecipeItemsFile), items);  // every item record byte for byte
+  EXPECT_EQ(t.data(kCommentFile), comments);
+  ASSERT_TRUE(loadRecipe(t.wb, 1));
+  const RecipeRecord& r = t.wb.recipe.rec;
+  EXPECT_EQ(trim(r.recipeName), "Amber");
+  EXPECT_EQ(trim(r.beerStyle), "American Amber Ale");
+  EXPECT_DOUBLE_EQ(r.color, 15.8);  // as shown, not 15.84
+  EXPECT_EQ(r.bitterness, 30);
+  EXPECT_DOUBLE_EQ(r.originalGravity, 1.053);
+  EXPECT_DOUBLE_EQ(r.finalGravity, 1.013);
+  EXPECT_DOUBLE_EQ(r.alcohol, 5.3);
+  EXPECT_DOUBLE_EQ(r.mashEfficiency, 80);  // the replaced efficiency is what is saved
+  EXPECT_EQ(r.itemCount, 6);
+  EXPECT_EQ(r.agingCount, 0);
+  EXPECT_EQ(r.agingUnits, -1);
+  EXPECT_DOUBLE_EQ(r.agingTemp, -9999.0);
+  EXPECT_DOUBLE_EQ(t.wb.recipe.items[5].rating, 0.75);
+  EXPECT_EQ(t.wb.recipe.items[0].mashFlag, -1);
+  // The recipe has yeast: no notice.
+  EXPECT_TRUE(t.b.prompter.shown.empty());
+}
+
+TEST(RecipeEditor, NotApplicableValuesSaveAsZeroAndNoYeastGetsTheNotice) {
+  EditorBench t;
+  t.store(1, "Empty", [](CurrentRecipe& c) { c.rec.itemCount = 0; });
+  ASSERT_TRUE(t.e.openRecipe(1));
+  const IngredientTable& g = t.e.sheet.grid;
+  EXPECT_EQ(g.rowCount(), 5);  // headers and the total row only
+  for (const std::string* f : {&t.e.sheet.lblColor, &t.e.sheet.lblOG, &t.e.sheet.lblFG, &t.e.sheet.lblAlcohol,
+                               &t.e.sheet.lblIBU})
+    EXPECT_EQ(*f, "N/A");
+  ASSERT_TRUE(t.e.mnuFileSave_Click());
+  const ShownMessage* m = t.lastMessage();
+  ASSERT_NE(m, nullptr);
+  EXPECT_EQ(m->text, "NOTICE: There is no Yeast included in this recipe!");
+  EXPECT_EQ(m->title, "Zythara 2 Information");
+  EXPECT_EQ(m->icon, Icon::Information);
+  ASSERT_TRUE(loadRecipe(t.wb, 1));
+  EXPECT_EQ(t.wb.recipe.rec.itemCount, 0);
+  EXPECT_DOUBLE_EQ(t.wb.recipe.rec.originalGravity, 0);
+  EXPECT_DOUBLE_EQ(t.wb.recipe.rec.color, 0);
+  EXPECT_EQ(t.wb.recipe.rec.bitterness, 0);
+}
+
+TEST(RecipeEditor, TwentySixthIngredientEndsTheProgramWithoutTouchingTheFiles) {
+  EditorBench t;
+  t.store(1, "Amber");
+  const std::string recipes = t.data(kRecipeFile), items = t.data(kRecipeItemsFile),
+                    comments = t.data(kCommentFile);
+  ASSERT_TRUE(t.e.openRecipe(1));
+  for (int k = 0; k < 19; ++k) t.e.cmdAddNew_Click(KIND_MALT);
+  EXPECT_EQ(t.e.sheet.grid.itemCount(), 25);
+  t.e.cmdAddNew_Click(KIND_HOPS);  // the table takes a 26th
+  EXPECT_EQ(t.e.sheet.grid.itemCount(), 26);
+  try {
+    t.e.mnuFileSave_Click();
+    FAIL() << "the save went on";
+  } catch (const Terminated& x) {
+    EXPECT_EQ(x.errorNumber, ERR_SUBSCRIPT);
+  }
+  EXPECT_EQ(t.data(kRecipeFile), recipes);
+  EXPECT_EQ(t.data(kRecipeItemsFile), items);
+  EXPECT_EQ(t.data(kCommentFile), comments);
+  EXPECT_TRUE(t.e.recipeChanged());
+  const ShownMessage* m = t.lastMessage();
+  ASSERT_NE(m, nullptr);
+  EXPECT_EQ(m->title, "Terminate Program");
+  EXPECT_EQ(m->text, "Error #9(Subscript out of range) in frmRecipe!mnuFileSave_Click at Line 0");
+  const std::vector<std::string> log = readLines(t.wb.folder.file(kErrorLog));
+  EXPECT_NE(std::find(log.begin(), log.end(), "In Function frmRecipe!mnuFileSave_Click"), log.end());
+  EXPECT_NE(std::find(log.begin(), log.end(), "Terminating"), log.end());
+}
+
+TEST(RecipeEditor, FermentationFieldsTravelWithTheRecipe) {
+  EditorBench t;
+  t.store(1, "Lager", [](CurrentRecipe& c) {
+    c.rec.unitType = METRIC_MEASURES;
+    c.rec.fermentTime = {14, 4, 0};
+    c.rec.fermentTimeUnits = {0, 1, 0};
+    c.rec.fermentTemp = {10, 2, 0};
+    c.rec.fermentVessel = {1, 2, 0};
+    c.rec.container = 7;    // any other value is Other
+    c.rec.carbonation = 9;  // and None
+    c.rec.primingComment = "Force carbonate";
+    c.rec.agingCount = 0;
+    c.rec.agingUnits = 0;
+    c.rec.agingTemp = 0;
+  });
+  ASSERT_TRUE(t.e.openRecipe(1));
+  FermentationForm& f = t.e.fermentation;
+  EXPECT_EQ(f.txtValue[0], "14.0");
+  EXPECT_EQ(f.cboValueUnits[1], 1);
+  EXPECT_EQ(f.txtTemp[1], "2.0");
+  EXPECT_EQ(f.cboVessel[1], 2);
+  EXPECT_EQ(f.optBottling, 3);
+  EXPECT_EQ(f.optCarbonation, 3);
+  EXPECT_EQ(f.txtConditioning, "Force carbonate");
+  EXPECT_FALSE(f.chkAge);  // agingCount 0
+  EXPECT_EQ(f.lblTempUnits, "\xB0" "C");
+  EXPECT_FALSE(t.e.recipeChanged());
+
+  // Every change marks the recipe.
+  f.setAge(true);
+  EXPECT_TRUE(t.e.recipeChanged());
+  f.setAgeValue("6");
+  f.setAgeUnits(1);
+  f.setBottling(1);
+  f.setCarbonation(2);
+  f.setStageValue(2, "2");
+  f.setStageUnits(2, 2);
+  ASSERT_TRUE(t.e.mnuFileSave_Click());
+  ASSERT_TRUE(loadRecipe(t.wb, 1));
+  RecipeRecord r = t.wb.recipe.rec;
+  EXPECT_EQ(r.agingCount, 6);
+  EXPECT_EQ(r.agingUnits, 1);
+  EXPECT_DOUBLE_EQ(r.agingTemp, -9999.0);  // blank temperature box
+  EXPECT_EQ(r.container, 1);
+  EXPECT_EQ(r.carbonation, 2);
+  EXPECT_DOUBLE_EQ(r.fermentTime[2], 2);
+  EXPECT_EQ(r.fermentTimeUnits[2], 2);
+  EXPECT_DOUBLE_EQ(r.fermentTemp[0], 10);
+
+  ASSERT_TRUE(t.e.openRecipe(1));
+  EXPECT_TRUE(f.chkAge);
+  EXPECT_EQ(f.txtAgeValue, "6");
+  EXPECT_EQ(f.txtAgeTemp, "");
+  f.setAgeTemp("4");
+  f.setAge(false);  // a clear box saves no aging, whatever the boxes hold
+  ASSERT_TRUE(t.e.mnuFileSave_Click());
+  ASSERT_TRUE(loadRecipe(t.wb, 1));
+  r = t.wb.recipe.rec;
+  EXPECT_EQ(r.agingCount, 0);
+  EXPECT_EQ(r.agingUnits, -1);
+  EXPECT_DOUBLE_EQ(r.agingTemp, -9999.0);
+}
+
+TEST(RecipeEditor, UnitChangeConvertsMaltAndHopsOnly) {
+  EditorBench t;
+  t.store(1, "Amber");
+  ASSERT_TRUE(t.e.openRecipe(1));
+  RecipeEditor& e = t.e;
+  IngredientTable& g = e.sheet.grid;
+  e.selectRow(2);  // Crystal 60, 1 lb at $1.60
+  e.setQuantity("2");
+  const std::string og = e.sheet.lblOG, ibu = e.sheet.lblIBU;
+  e.setUnits(UNIT_OZ);
+  EXPECT_EQ(g.cell(2, COL_QTY), "32.0");
+  EXPECT_EQ(g.cell(2, COL_COST), "$0.10");
+  EXPECT_EQ(g.cell(2, COL_UNITS), "Oz");
+  EXPECT_EQ(g.unitCode(2), UNIT_OZ);
+  EXPECT_EQ(e.strip.txtQty, "32.0");
+  EXPECT_EQ(e.sheet.lblOG, og);
+  EXPECT_EQ(e.sheet.lblIBU, ibu);
+  e.setUnits(UNIT_KG);  // 2 lbs = 0.907 kg, brought to a multiple of 0.05
+  EXPECT_EQ(g.cell(2, COL_QTY), "0.9");
+  EXPECT_EQ(g.cell(2, COL_COST), "$3.53");
+
+  e.selectRow(4);  // Cascade, 1 oz at $1.25
+  e.setUnits(UNIT_GR);
+  EXPECT_EQ(g.cell(4, COL_QTY), "28.35");
+  EXPECT_EQ(g.cell(4, COL_COST), "$0.04");
+  EXPECT_EQ(e.sheet.lblIBU, ibu);
+
+  e.selectRow(7);  // Irish Moss: only the unit changes
+  e.setUnits(3);
+  EXPECT_EQ(g.cell(7, COL_QTY), "1.0");
+  EXPECT_EQ(g.cell(7, COL_COST), "$0.35");
+  EXPECT_EQ(g.cell(7, COL_UNITS), "Gr");
+  EXPECT_TRUE(e.recipeChanged());
+}
+
+TEST(RecipeEditor, QuantityStepsToTheNextAndPreviousFraction) {
+  EXPECT_DOUBLE_EQ(nextQuantityStep(1.3, QtyStep::Half), 1.5);
+  EXPECT_DOUBLE_EQ(previousQuantityStep(1.3, QtyStep::Half), 1.0);
+  EXPECT_DOUBLE_EQ(nextQuantityStep(1.5, QtyStep::Half), 2.0);  // on a step: one full step
+  EXPECT_DOUBLE_EQ(previousQuantityStep(1.5, QtyStep::Half), 1.0);
+  EXPECT_DOUBLE_EQ(nextQuantityStep(1.3, QtyStep::Whole), 2.0);
+  EXPECT_DOUBLE_EQ(previousQuantityStep(1.3, QtyStep::Quarter), 1.25);
+  EXPECT_DOUBLE_EQ(nextQuantityStep(1.25, QtyStep::Tenth), 1.3);
+  EXPECT_DOUBLE_EQ(previousQuantityStep(0, QtyStep::Quarter), -0.25);  // stands
+
+  EditorBench t;
+  t.store(1, "Amber");
+  ASSERT_TRUE(t.e.openRecipe(1));
+  t.e.selectRow(4);  // Cascade, 1 oz
+  t.e.setQuantity("1.3");
+  t.e.stepQuantity(QtyStep::Half, true);
+  EXPECT_EQ(t.e.sheet.grid.cell(4, COL_QTY), "1.5");
+  EXPECT_EQ(t.e.strip.txtQty, "1.5");
+  t.e.stepQuantity(QtyStep::Tenth, false);
+  EXPECT_EQ(t.e.sheet.grid.cell(4, COL_QTY), "1.4");
+  const std::string ibu = t.e.sheet.lblIBU;
+  t.e.stepQuantity(QtyStep::Whole, true);
+  EXPECT_EQ(t.e.sheet.grid.cell(4, COL_QTY), "2.0");
+  EXPECT_NE(t.e.sheet.lblIBU, ibu);  // hops quantity: bitterness follows
+
+  // Spinners step by the defaults and stop at zero.
+  t.e.spin(StripField::Quantity, +1);
+  EXPECT_EQ(t.e.strip.txtQty, "2.2");
+  t.e.spin(StripField::Color, -1);  // boil time 60 - 5
+  EXPECT_EQ(t.e.sheet.grid.cell(4, COL_DETAIL), "55");
+  t.e.setQuantity("0.1");
+  t.e.spin(StripField::Quantity, -1);
+  EXPECT_EQ(t.e.strip.txtQty, "0.0");
+}
+
+TEST(RecipeEditor, SortsWorkSectionBySection) {
+  EditorBench t;
+  RecipeEditor& e = t.e;
+  e.AddIngredient(KIND_MALT, "Chocolate", 1, 0, 0, 1.03, 350, 0);
+  e.AddIngredient(KIND_MALT, "crystal", 1, 0, 0, 1.03, 60, 0);
+  e.AddIngredient(KIND_MALT, "Pale", 8, 0, 0, 1.036, 3, -1);
+  e.AddIngredient(KIND_MALT, "Munich", 2, 0, 0, 1.035, 9, -1);
+  e.AddIngredient(KIND_HOPS, "Saaz", 1, 1, 0, 3.5, 60, 0);
+  e.AddIngredient(KIND_HOPS, "Cascade", 1, 1, 0, 5.5, 5, 0);
+  e.AddIngredient(KIND_HOPS, "Northern Brewer", 2, 1, 0, 8, 60, 0);
+  e.AddIngredient(KIND_HOPS, "Amarillo", 2, 1, 0, 8, 60, 0);
+  e.AddIngredient(KIND_HOPS, "Magnum", 0.5, 1, 0, 12, 90, 0);
+  e.AddIngredient(KIND_OTHER, "Whirlfloc", 1, 4, 0, 0, 0, 0);
+  e.AddIngredient(KIND_OTHER, "Gypsum", 2, 5, 0, 0, 0, 0);
+  e.AddIngredient(KIND_YEAST, "Zeta", 1, 0, 0, 0.7, 0, 0);
+  e.AddIngredient(KIND_YEAST, "Alpha", 3, 0, 0, 0.7, 0, 0);
+  auto names = [&] {
+    std::string s;
+    for (const IngredientRow& r : e.sheet.grid.rows()) s += (r.isItem() ? r.cells[COL_NAME] : "|") + ",";
+    return s;
+  };
+  e.sortByTimeQuantityAlpha();
+  EXPECT_EQ(names(),
+            "|,Pale,Munich,Chocolate,crystal,|,Magnum,Amarillo,Northern Brewer,Saaz,Cascade,|,Gypsum,Whirlfloc,|,"
+            "Alpha,Zeta,|,");
+  e.sortAlphabetically();  // byte order: lower case after upper case
+  EXPECT_EQ(names(),
+            "|,Chocolate,Munich,Pale,crystal,|,Amarillo,Cascade,Magnum,Northern Brewer,Saaz,|,Gypsum,Whirlfloc,|,"
+            "Alpha,Zeta,|,");
+  EXPECT_EQ(e.sheet.grid.cell(8, COL_DETAIL), "90");  // whole rows move
+  EXPECT_TRUE(e.recipeChanged());
+}
+
+TEST(RecipeEditor, MovesStayWithinTheSection) {
+  EditorBench t;
+  RecipeEditor& e = t.e;
+  e.AddIngredient(KIND_MALT, "Pale", 8, 0, 0, 1.036, 3, -1);
+  e.AddIngredient(KIND_MALT, "Munich", 2, 0, 0, 1.035, 9, -1);
+  e.AddIngredient(KIND_HOPS, "Saaz", 1, 1, 0, 3.5, 60, 0);
+  e.AddIngredient(KIND_HOPS, "Cascade", 1, 1, 0, 5.5, 5, 0);
+  IngredientTable& g = e.sheet.grid;
+  e.selectRow(2);
+  e.mnuSortDown_Click();  // the hops header is no neighbour
+  EXPECT_EQ(g.cell(2, COL_NAME), "Munich");
+  e.mnuSortUp_Click();
+  EXPECT_EQ(g.cell(1, COL_NAME), "Munich");
+  EXPECT_EQ(g.cell(2, COL_NAME), "Pale");
+  EXPECT_EQ(e.selectedRow, 1);
+  e.mnuSortUp_Click();  // already first
+  EXPECT_EQ(g.cell(1, COL_NAME), "Munich");
+  e.selectRow(4);
+  e.mnuSortUp_Click();
+  EXPECT_EQ(g.cell(4, COL_NAME), "Saaz");
+  e.mnuSortDown_Click();
+  EXPECT_EQ(g.cell(5, COL_NAME), "Saaz");
+  EXPECT_EQ(g.cell(4, COL_NAME), "Cascade");
+  EXPECT_EQ(g.cell(5, COL_DETAIL), "60");
+  e.mnuSortDown_Click();  // the last hop: the next row is a header
+  EXPECT_EQ(g.cell(5, COL_NAME), "Saaz");
+}
+
+TEST(RecipeEditor, DeleteAsksAndNewButtonsUseTheDefaults) {
+  EditorBench t;
+  t.store(1, "Amber");
+  ASSERT_TRUE(t.e.openRecipe(1));
+  RecipeEditor& e = t.e;
+  e.selectRow(2);
+  t.b.prompter.answers = {Answer::No};
+  e.cmdDeleteIngredient_Click();
+  ASSERT_NE(t.lastMessage(), nullptr);
+  EXPECT_EQ(t.lastMessage()->text, "Do you want to Delete \"Crystal 60\" from the Recipe?");
+  EXPECT_EQ(t.lastMessage()->title, "Delete Ingredient");
+  EXPECT_EQ(t.lastMessage()->buttons, Buttons::YesNo);
+  EXPECT_EQ(e.sheet.grid.itemCount(), 6);
+  EXPECT_FALSE(e.recipeChanged());
+  t.b.prompter.answers = {Answer::Yes};
+  e.cmdDeleteIngredient_Click();
+  EXPECT_EQ(e.sheet.grid.itemCount(), 5);
+  EXPECT_EQ(e.sheet.lblColor, "3.8");  // 3 * 8 * 0.8 / 5
+  EXPECT_EQ(e.sheet.grid.cell(e.sheet.grid.totalRow(), COL_COST), "$16.14");
+  EXPECT_FALSE(e.strip.visible);
+  EXPECT_TRUE(e.recipeChanged());
+  EXPECT_EQ(e.saveButtonImage(), "Save-Changed");
+  EXPECT_EQ(e.saveButtonTip(), "Save Recipe - Changed");
+
+  EditorBench n;
+  RecipeEditor& f = n.e;
+  const std::vector<std::vector<std::string>> expected = {
+      {"", "Malt", "1.0", "Lbs", "$1.00", "1.032", "4.0", "No"},
+      {"", "Hops", "1.0", "Oz", "$1.25", "5.5", "60", ""},
+      {"", "Other", "1.0", "Tsp", "$2.00", "", "", ""},
+      {"", "Yeast", "1.0", "Packet", "$1.50", "72", "", ""}};
+  for (int kind = 0; kind < 4; ++kind) {
+    f.cmdAddNew_Click(kind);
+    ASSERT_TRUE(f.strip.visible);
+    const int r = f.selectedRow;
+    EXPECT_EQ(f.selectedKind, kind);
+    for (int c = 0; c < 8; ++c) EXPECT_EQ(f.sheet.grid.cell(r, c), expected[kind][c]) << kind << "," << c;
+  }
+  EXPECT_EQ(f.strip.lblExtraction, "Attenuation %:");
+  EXPECT_TRUE(f.recipeChanged());
+  EXPECT_EQ(f.sheet.grid.cell(f.sheet.grid.totalRow(), COL_COST), "$5.75");
+  EXPECT_EQ(f.sheet.lblOG, "1.006");  // 1 lb of 1.032 in 5 gallons
+}
+
+TEST(RecipeEditor, EditStripFollowsTheKindAndRecomputesByTheTable) {
+  EditorBench t;
+  t.store(1, "Amber");
+  ASSERT_TRUE(t.e.openRecipe(1));
+  RecipeEditor& e = t.e;
+  e.selectRow(1);
+  EXPECT_EQ(e.strip.lblExtraction, "Extraction Rating:");
+  EXPECT_EQ(e.strip.lblColor, "Color:");
+  EXPECT_TRUE(e.strip.showMash);
+  EXPECT_TRUE(e.strip.chkMash);
+  EXPECT_EQ(e.strip.lblExtPct, "(77%)");
+  EXPECT_EQ(e.strip.unitList.size(), 4u);
+  EXPECT_FALSE(e.recipeChanged());  // filling the strip is no edit
+  e.setExtraction("1.037");
+  EXPECT_EQ(e.sheet.grid.cell(1, COL_RATING), "1.037");
+  EXPECT_EQ(e.strip.lblExtPct, "(79%)");
+  e.setMash(false);
+  EXPECT_EQ(e.sheet.grid.cell(1, COL_MASH), "No");
+  EXPECT_EQ(e.sheet.lblOG, "1.066");  // 8 * 0.037 + 0.034 = 0.330 / 5
+  e.selectRow(4);
+  EXPECT_EQ(e.strip.lblExtraction, "Alpha %:");
+  EXPECT_EQ(e.strip.lblColor, "Boil Time:");
+  EXPECT_FALSE(e.strip.showMash);
+  e.selectRow(7);
+  EXPECT_FALSE(e.strip.showExtraction);
+  EXPECT_FALSE(e.strip.showColor);
+  EXPECT_EQ(e.strip.unitList.size(), 14u);
+  e.selectRow(3);  // a header clears the strip
+  EXPECT_FALSE(e.strip.visible);
+  EXPECT_EQ(e.selectedRow, -1);
+
+  // A cost edit reaches the total only.
+  e.selectRow(9);
+  const std::string og = e.sheet.lblOG;
+  e.setCost("$5.99");
+  EXPECT_EQ(e.sheet.grid.cell(9, COL_COST), "$5.99");
+  EXPECT_EQ(e.sheet.lblOG, og);
+}
+
+TEST(RecipeEditor, VolumeChangeRefreshesBitternessOnly) {
+  EditorBench t;
+  t.store(1, "Amber");
+  ASSERT_TRUE(t.e.openRecipe(1));
+  t.e.setFermentVolume("10");
+  EXPECT_EQ(t.e.sheet.lblOG, "1.053");    // stays, computed for 5 gallons
+  EXPECT_EQ(t.e.sheet.lblColor, "15.8");
+  EXPECT_EQ(t.e.sheet.lblIBU, "12");      // boil gravity now 10/5 * 0.05288: divisor 1.2788
+  EXPECT_TRUE(t.e.recipeChanged());
+  t.e.mashDataChanged();                  // the next full recompute catches up
+  EXPECT_EQ(t.e.sheet.lblOG, "1.026");
+}
+
+TEST(RecipeEditor, StylesKnownUnknownAndChosen) {
+  EditorBench t;
+  t.store(1, "Martian", [](CurrentRecipe& c) { c.rec.beerStyle = "Martian Red Ale"; });
+  ASSERT_TRUE(t.e.openRecipe(1));
+  const ShownMessage* m = t.lastMessage();
+  ASSERT_NE(m, nullptr);
+  EXPECT_EQ(m->text, "Beer Style 'Martian Red Ale' is Not Recognized by Zythara");
+  EXPECT_EQ(m->title, "Unknown Beer Style");
+  EXPECT_EQ(t.e.cboBeerStyle, 0);
+  EXPECT_EQ(t.e.cboBeerStyleText, "<Not A Recognized Beer Style>");
+  EXPECT_EQ(t.wb.styles.CurrentStyleIndex, -1);
+  EXPECT_EQ(t.e.sheet.targets[TARGET_OG].text, "N/A");
+  EXPECT_FALSE(t.e.recipeChanged());
+
+  ASSERT_EQ(t.e.styleList.size(), 3u);
+  t.e.chooseStyle(2);
+  EXPECT_EQ(t.wb.styles.CurrentStyleIndex, 0);
+  EXPECT_EQ(t.e.sheet.targets[TARGET_OG].text, "OK");
+  EXPECT_TRUE(t.e.sheet.cmdDetailsEnabled);
+  EXPECT_TRUE(t.e.recipeChanged());
+  t.e.chooseStyle(1);
+  EXPECT_EQ(t.wb.styles.CurrentStyleIndex, -1);
+  EXPECT_EQ(t.e.sheet.targets[TARGET_OG].text, "N/A");
+  ASSERT_TRUE(t.e.mnuFileSave_Click());
+  ASSERT_TRUE(loadRecipe(t.wb, 1));
+  EXPECT_EQ(trim(t.wb.recipe.rec.beerStyle), "");  // "<Not Specified>" saves blank
+
+  // A style hidden by the filter stays the recipe's style.
+  t.e.chooseStyle(2);
+  t.wb.styles.StyleSourceShown = {false, false, false};
+  t.e.cmdFilterClosed();
+  EXPECT_EQ(t.e.styleList.size(), 2u);
+  EXPECT_EQ(t.e.cboBeerStyleText, "American Amber Ale");
+  EXPECT_EQ(t.wb.styles.CurrentStyleIndex, 0);
+
+  // The match list reads the shown values.
+  StyleMatchModel match = t.e.openStyleMatch();
+  ASSERT_EQ(match.lines().size(), 2u);
+  EXPECT_EQ(match.lines()[1], "American Amber Ale\tOK\tOK\tOK\tOK\tOK");
+  EXPECT_EQ(match.selected, 0);
+}
+
+TEST(RecipeEditor, SaveKeepsTheTreeLeafAndSaveAsMakesACopy) {
+  EditorBench t;
+  t.store(1, "Amber");
+  t.store(2, "Stout");
+  RecipeList& list = t.wb.recipeList;
+  ASSERT_TRUE(list.mnuSortBy_Click(t.wb, SORT_BY_NAME));
+  ASSERT_TRUE(t.e.openRecipe(1));
+
+  // A title taken by another recipe becomes unique at the save.
+  t.e.setTitle("Stout");
+  EXPECT_TRUE(t.e.titleChanged);
+  ASSERT_TRUE(t.e.mnuFileSave_Click());
+  EXPECT_EQ(t.e.txtTitle, "Stout (Duplicate)");
+  ASSERT_NE(list.tree.find("R1"), nullptr);
+  EXPECT_EQ(list.tree.find("R1")->text, "Stout (Duplicate)");
+  EXPECT_EQ(list.tree.find("R1")->tag, "Stout (Duplicate)");
+  ASSERT_TRUE(loadRecipe(t.wb, 1));
+  EXPECT_EQ(trim(t.wb.recipe.rec.recipeName), "Stout (Duplicate)");
+
+  // Save As without the new title: a numbered copy in a new slot.
+  ASSERT_TRUE(t.e.openRecipe(2));
+  t.b.prompter.answers = {Answer::No};
+  ASSERT_TRUE(t.e.mnuFileSaveAs_Click());
+  const ShownMessage& q = t.b.prompter.shown.front();
+  EXPECT_EQ(q.text, "Change Recipe Title to: Copy of Stout?");
+  EXPECT_EQ(q.title, "Save Recipe As...");
+  EXPECT_EQ(t.wb.recipe.rec.recipeNo, 3);
+  EXPECT_EQ(t.e.txtTitle, "Stout 1");
+  ASSERT_NE(list.tree.find("R3"), nullptr);
+  EXPECT_EQ(list.tree.find("R3")->text, "Stout 1");
+  EXPECT_EQ(list.tree.find("R2")->text, "Stout");
+  EXPECT_EQ(list.currentRecipeKey, "R3");
+
+  // With it: "Copy of" and the name.
+  t.b.prompter.answers = {Answer::Yes};
+  ASSERT_TRUE(t.e.mnuFileSaveAs_Click());
+  EXPECT_EQ(t.wb.recipe.rec.recipeNo, 4);
+  EXPECT_EQ(t.e.txtTitle, "Copy of Stout 1");
+  EXPECT_EQ(list.tree.find("R4")->text, "Copy of Stout 1");
+  EXPECT_EQ(list.tree.tag, "4");
+  ASSERT_TRUE(loadRecipe(t.wb, 4));
+  EXPECT_EQ(trim(t.wb.recipe.rec.recipeName), "Copy of Stout 1");
+  EXPECT_EQ(t.wb.recipe.rec.itemCount, 6);
+
+  // A new recipe reaches the tree at its first save.
+  ASSERT_EQ(list.mnuFileNew_Click(t.wb), 5);
+  t.e.initRecipeForm();
+  t.e.populateRecipeForm();
+  ASSERT_TRUE(t.e.mnuFileSave_Click());
+  ASSERT_NE(list.tree.find("R5"), nullptr);
+  EXPECT_EQ(list.tree.find("R5")->text, "A Beer Recipe");
+}
+
+TEST(RecipeEditor, ClosingAsksWhenChanged) {
+  EditorBench t;
+  t.store(1, "Amber");
+  const std::string recipes = t.data(kRecipeFile);
+  ASSERT_TRUE(t.e.openRecipe(1));
+  EXPECT_TRUE(t.e.queryClose());  // unchanged: no question
+  EXPECT_TRUE(t.b.prompter.shown.empty());
+
+  t.e.setTitle("Amber Ale");
+  t.b.prompter.answers = {Answer::Cancel};
+  EXPECT_FALSE(t.e.queryClose());
+  EXPECT_EQ(t.lastMessage()->text, "Recipe has Changed, Save Changes?");
+  EXPECT_EQ(t.lastMessage()->title, "Save Recipe");
+  EXPECT_EQ(t.lastMessage()->buttons, Buttons::YesNoCancel);
+  EXPECT_TRUE(t.e.recipeChanged());
+
+  t.b.prompter.answers = {Answer::No};
+  EXPECT_TRUE(t.e.queryClose());
+  EXPECT_FALSE(t.e.recipeChanged());
+  EXPECT_EQ(t.data(kRecipeFile), recipes);
+
+  t.e.setTitle("Amber Ale");
+  t.b.prompter.answers = {Answer::Yes};
+  EXPECT_TRUE(t.e.queryClose());
+  ASSERT_TRUE(loadRecipe(t.wb, 1));
+  EXPECT_EQ(trim(t.wb.recipe.rec.recipeName), "Amber Ale");
+}

@@ -1,0 +1,427 @@
+// The recipe exchange format: the writer's exact text, the reader's actions and older forms,
+// every difference of a round trip, and the reader's behaviour on broken input.
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "core/text.h"
+#include "recipes/RecipeExchange.h"
+#include "recipes/RecipeList.h"
+#include "recipes/RecipeStore.h"
+#include "support/TestSupport.h"
+
+namespace zy {
+namespace {
+
+using test::Bench;
+
+RecipeItemRecord item(int kind, const std::string& name, double qty, int units, double cost, double rating,
+                      double detail, int mash = 0) {
+  RecipeItemRecord it;
+  it.itemKind = kind;
+  it.itemName = name;
+  it.quantity = qty;
+  it.quantityUnits = units;
+  it.unitCost = cost;
+  it.rating = rating;
+  it.detail = detail;
+  it.mashFlag = mash;
+  return it;
+}
+
+// A metric step-infusion lager with one item of every kind and every optional line.
+void fillMaerzen(Workbench& wb) {
+  newRecipeRecord(wb);
+  RecipeRecord& r = wb.recipe.rec;
+  r.recipeType = 1;
+  r.recipeName = "  Mike's M\xE4rzen ";
+  r.boilTime = 60;
+  r.dateCreated = "Oct-05-1998";
+  r.idCode = "MZ1";
+  r.labelName = "Oktober";
+  r.beerStyle = "M\xE4rzen";
+  r.unitType = METRIC_MEASURES;
+  r.volumeUnits = LITER_CONST;
+  r.boilVolume = 20.04;
+  r.fermentVolume = 19;
+  r.color = 11.6;
+  r.bitterness = 24;
+  r.originalGravity = 1.0556;
+  r.finalGravity = 1.014;
+  r.alcohol = 5.43;
+  r.mashType = 3;
+  r.mashEfficiency = 0;
+  r.mashWaterRate = 0;
+  r.mashStepTemp[0] = 52;
+  r.mashStepTime[0] = 15;
+  r.mashStepComment[0] = "Protein rest, thick";
+  r.mashStepTemp[1] = 60;  // no time: no step
+  r.mashStepTemp[2] = 65.5;
+  r.mashStepTime[2] = 45;
+  r.spargeVolume = 12.25;
+  r.spargeVolumeUnits = US_QTS_CONST;
+  r.spargeTemp = 77;
+  r.spargeRate = 0;
+  r.fermentTime = {7, 0, 4};
+  r.fermentTimeUnits = {0, 0, 1};
+  r.fermentTemp = {10, 0, 2};
+  r.fermentVessel = {1, 0, 2};
+  r.container = 1;
+  r.carbonation = 2;
+  r.primingComment = "Keg, then wait";
+  r.agingCount = 6;
+  r.agingUnits = 1;
+  r.agingTemp = 2;
+  r.itemCount = 5;
+  wb.recipe.items[0] = item(KIND_MALT, "Munich, light", 4.5, UNIT_KG, 2.1, 1.037, 9, -1);
+  wb.recipe.items[1] = item(KIND_MALT, "Liquid Extract", 1, UNIT_LBS, 0, 1.036, 3, -1);
+  wb.recipe.items[2] = item(KIND_HOPS, "Hallertau ~ Mittelfr\xFCh", 28.35, UNIT_GR, 0.1, 4.25, 60);
+  wb.recipe.items[3] = item(KIND_OTHER, "Irish Moss", 1, 5, 0.5, 0, 0);
+  wb.recipe.items[4] = item(KIND_YEAST, "Lager Yeast", 1, 1, 6, 0.955, 0);
+  wb.recipe.comment = "He said \"prost\"\r\nLine two   ";
+}
+
+const std::string kMaerzenText =
+    "<Recipe_Format_1.0>\r\n"
+    "<Recipe> Type=\"Lager\", Name=\"Mike's M\xE4rzen\", BoilTime=60, Date=\"Oct-05-1998\", Code=\"MZ1\", "
+    "Label=\"Oktober\", Style=\"M\xE4rzen\"\r\n"
+    "<Volume> Initial=20.0, Final=19.0, Units=\"Liters\"\r\n"
+    "<Color> Value=12, Units=\"Lovi\"\r\n"
+    "<Bitterness> Value=24, Units=\"IBU\"\r\n"
+    "<Gravity> Original=1.056, Final=1.014, Alcohol=5.4\r\n"
+    "<Malt> Type=\"Munich~ light\", Quantity=4.5, Units=\"Kg\", Extraction=1.037, Mash=\"Yes\", Color=9\r\n"
+    "<Malt> Type=\"Liquid Extract\", Quantity=1.0, Units=\"Lbs\", Extraction=1.036, Mash=\"Yes\", Color=3\r\n"
+    "<Hops> Type=\"Hallertau ~ Mittelfr\xFCh\", Quantity=28.35, Units=\"Gr\", Alpha=4.3, BoilTime=60\r\n"
+    "<Other> Type=\"Irish Moss\", Quantity=1.0, Units=\"Tsp\"\r\n"
+    "<Yeast> Type=\"Lager Yeast\", Quantity=1.0, Units=\"Slant\", Attenuation=96\r\n"
+    "<Mash> Type=\"Step Infusion\", Efficiency=100, Rate=0.40\r\n"
+    "<Mash> Index=0, Temp=52, Time=15, Comments=\"Protein rest\xB8 thick\"\r\n"
+    "<Mash> Index=2, Temp=65.5, Time=45\r\n"
+    "<Sparge> Volume=12.3, Units=\"Liters\", Temp=77, Rate=0.40\r\n"
+    "<Fermentation> Primary=7, Units=\"Days\", Temp=10, Vessel=\"Glass\"\r\n"
+    "<Fermentation> Tertiary=4, Units=\"Weeks\", Temp=2, Vessel=\"Stainless\"\r\n"
+    "<Priming> Container=\"Kegs\", Carbonation=\"Forced CO2\", Comments=\"Keg\xB8 then wait\"\r\n"
+    "<Aging> Count=6, Units=\"Weeks\", Temp=2\r\n"
+    "<Comments_Start>\r\n"
+    "\"He said \"\"prost\"\"\r\nLine two\"\r\n"
+    "<Comments_End>\r\n"
+    "<End_Recipe_Format>\r\n";
+
+TEST(RecipeExchange, WriterProducesTheExactText) {
+  Bench b;
+  fillMaerzen(*b.wb);
+  EXPECT_EQ(exportRecipeText(*b.wb), kMaerzenText);
+  EXPECT_EQ(b.wb->recipe.rec.recipeName, "Mike's M\xE4rzen");  // the writer trims the record's texts
+
+  // Costs only with "Include Cost", and only those above 0.
+  b.wb->defaults.includeCost = 1;
+  std::string withCost = exportRecipeText(*b.wb);
+  EXPECT_NE(withCost.find("Color=9, UnitCost=2.10\r\n"), std::string::npos);
+  EXPECT_NE(withCost.find("Units=\"Lbs\", Extraction=1.036, Mash=\"Yes\", Color=3\r\n"), std::string::npos);
+  EXPECT_NE(withCost.find("BoilTime=60, UnitCost=0.10\r\n"), std::string::npos);
+  EXPECT_NE(withCost.find("Attenuation=96, UnitCost=6.00\r\n"), std::string::npos);
+
+  // A recipe without mash writes the mash type only; no aging line without a count.
+  Bench c;
+  newRecipeRecord(*c.wb);
+  c.wb->recipe.rec.recipeName = "Simple";
+  c.wb->recipe.rec.dateCreated = "";
+  c.wb->recipe.rec.mashStepTime[0] = 30;
+  c.wb->recipe.rec.agingTemp = -9999.0;
+  EXPECT_EQ(exportRecipeText(*c.wb), "<Recipe_Format_1.0>\r\n"
+                                     "<Recipe> Type=\"Ale\", Name=\"Simple\", BoilTime=60\r\n"
+                                     "<Volume> Initial=3.5, Final=5.0, Units=\"US Gallons\"\r\n"
+                                     "<Color> Value=0, Units=\"Lovi\"\r\n"
+                                     "<Bitterness> Value=0, Units=\"IBU\"\r\n"
+                                     "<Gravity> Original=0.000, Final=0.000, Alcohol=0.0\r\n"
+                                     "<Mash> Type=\"No Mash\"\r\n"
+                                     "<Priming> Container=\"Bottles\", Carbonation=\"Priming\", Comments=\"\"\r\n"
+                                     "<Comments_Start>\r\n"
+                                     "\"\"\r\n"
+                                     "<Comments_End>\r\n"
+                                     "<End_Recipe_Format>\r\n");
+}
+
+TEST(RecipeExchange, RoundTripKeepsItsDocumentedDifferences) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  // The name is in the tree already.
+  newRecipeRecord(wb);
+  wb.recipe.rec.recipeNo = 1;
+  wb.recipe.rec.recipeName = "Mike's M\xE4rzen";
+  ASSERT_TRUE(saveCurrentRecipe(wb));
+  ASSERT_TRUE(wb.recipeList.mnuSortBy_Click(wb, SORT_BY_NAME));
+
+  fillMaerzen(wb);
+  const std::string text = exportRecipeText(wb);
+  ImportOutcome o = importRecipe(wb, text);
+  EXPECT_TRUE(o.recognized);
+  EXPECT_FALSE(o.endedByError);
+  const RecipeRecord& r = wb.recipe.rec;
+  EXPECT_EQ(r.recipeName, "Mike's M\xE4rzen (Duplicate)");
+  EXPECT_EQ(r.recipeType, 1);
+  EXPECT_EQ(r.dateCreated, "Oct-05-1998");
+  EXPECT_EQ(r.idCode, "MZ1");
+  EXPECT_EQ(r.labelName, "Oktober");
+  EXPECT_EQ(r.beerStyle, "M\xE4rzen");
+  EXPECT_EQ(r.boilTime, 60);
+  // A metric recipe comes back as US measures in US Gallons, numbers unchanged.
+  EXPECT_EQ(r.unitType, US_MEASURES);
+  EXPECT_EQ(r.volumeUnits, US_GAL_CONST);
+  EXPECT_DOUBLE_EQ(r.boilVolume, 20.0);
+  EXPECT_DOUBLE_EQ(r.fermentVolume, 19.0);
+  // Nothing is recomputed: the written roundings stand.
+  EXPECT_DOUBLE_EQ(r.color, 12);
+  EXPECT_EQ(r.bitterness, 24);
+  EXPECT_DOUBLE_EQ(r.originalGravity, 1.056);
+  EXPECT_DOUBLE_EQ(r.finalGravity, 1.014);
+  EXPECT_DOUBLE_EQ(r.alcohol, 5.4);
+  // Efficiency and rates of 0 were written as 100 and 0.40.
+  EXPECT_EQ(r.mashType, 3);
+  EXPECT_DOUBLE_EQ(r.mashEfficiency, 100);
+  EXPECT_DOUBLE_EQ(r.mashWaterRate, 0.4);
+  EXPECT_DOUBLE_EQ(r.spargeRate, 0.4);
+  EXPECT_DOUBLE_EQ(r.mashStepTemp[0], 52);
+  EXPECT_DOUBLE_EQ(r.mashStepTime[0], 15);
+  EXPECT_EQ(r.mashStepComment[0], "Protein rest, thick");  // "¸" back to a comma
+  EXPECT_DOUBLE_EQ(r.mashStepTemp[1], 0);
+  EXPECT_DOUBLE_EQ(r.mashStepTemp[2], 65.5);
+  EXPECT_DOUBLE_EQ(r.mashStepTime[2], 45);
+  // The sparge unit is the recipe's volume unit, which is spelled as a list entry here.
+  EXPECT_DOUBLE_EQ(r.spargeVolume, 12.3);
+  EXPECT_EQ(r.spargeVolumeUnits, LITER_CONST);
+  EXPECT_DOUBLE_EQ(r.spargeTemp, 77);
+  EXPECT_EQ(r.fermentTime, (std::array<double, 3>{7, 0, 4}));
+  EXPECT_EQ(r.fermentTimeUnits, (std::array<int, 3>{0, 0, 1}));
+  EXPECT_EQ(r.fermentTemp, (std::array<double, 3>{10, 0, 2}));
+  EXPECT_EQ(r.fermentVessel, (std::array<int, 3>{1, 0, 2}));
+  EXPECT_EQ(r.container, 1);
+  EXPECT_EQ(r.carbonation, 2);
+  EXPECT_EQ(r.primingComment, "Keg, then wait");
+  EXPECT_EQ(r.agingCount, 6);
+  EXPECT_EQ(r.agingUnits, 1);
+  EXPECT_DOUBLE_EQ(r.agingTemp, 2);
+  // Trailing blanks of the comment are gone; the doubled quotes read as one.
+  EXPECT_EQ(wb.recipe.comment, "He said \"prost\"\r\nLine two");
+
+  ASSERT_EQ(r.itemCount, 5);
+  const auto& it = wb.recipe.items;
+  EXPECT_EQ(it[0].itemName, "Munich, light");
+  EXPECT_EQ(it[0].quantityUnits, UNIT_KG);
+  EXPECT_EQ(it[0].mashFlag, -1);
+  EXPECT_DOUBLE_EQ(it[0].unitCost, 0);  // costs were not written
+  EXPECT_DOUBLE_EQ(it[0].rating, 1.037);
+  EXPECT_DOUBLE_EQ(it[0].detail, 9);
+  EXPECT_EQ(it[1].mashFlag, -1);  // Mash="Yes" outweighs the "ext" in the name
+  EXPECT_EQ(it[2].itemName, "Hallertau , Mittelfr\xFCh");  // a "~" comes back as a comma
+  EXPECT_DOUBLE_EQ(it[2].rating, 4.3);
+  EXPECT_DOUBLE_EQ(it[2].quantity, 28.35);
+  EXPECT_EQ(it[3].quantityUnits, 5);
+  EXPECT_EQ(it[4].itemKind, KIND_YEAST);
+  EXPECT_EQ(it[4].quantityUnits, 1);
+  EXPECT_DOUBLE_EQ(it[4].rating, 0.72);  // 0.955 -> 96 -> 0.96, above 0.95: the default
+
+  // With costs on, they survive.
+  fillMaerzen(wb);
+  wb.defaults.includeCost = 1;
+  importRecipe(wb, exportRecipeText(wb));
+  EXPECT_DOUBLE_EQ(wb.recipe.items[0].unitCost, 2.1);
+  EXPECT_DOUBLE_EQ(wb.recipe.items[1].unitCost, 0);
+}
+
+TEST(RecipeExchange, CommasInUnescapedValuesCutTheField) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  newRecipeRecord(wb);
+  wb.recipe.rec.recipeName = "Smith, Jones Ale";
+  wb.recipe.rec.beerStyle = "Brown, Nut";
+  wb.recipe.rec.mashType = 0;
+  wb.recipe.rec.mashStepTime[0] = 60;  // no mash: steps are not written
+  wb.recipe.rec.spargeVolume = 4;
+  importRecipe(wb, exportRecipeText(wb));
+  EXPECT_EQ(wb.recipe.rec.recipeName, "Smit");
+  EXPECT_EQ(wb.recipe.rec.beerStyle, "Brow");
+  EXPECT_DOUBLE_EQ(wb.recipe.rec.mashStepTime[0], 0);
+  EXPECT_DOUBLE_EQ(wb.recipe.rec.spargeVolume, 0);
+  EXPECT_EQ(wb.recipe.rec.volumeUnits, US_GAL_CONST);
+}
+
+ImportOutcome readText(Bench& b, const std::string& body) {
+  return importRecipe(*b.wb, "<Recipe_Format_1.0>\r\n" + body);
+}
+
+TEST(RecipeExchange, ReaderRefusesFilesWithoutMarkerOrWithNothingBehindIt) {
+  Bench b;
+  ImportOutcome o = importRecipe(*b.wb, std::string("<Recipe> Type=\"Ale\", Name=\"X\"\r\n"));
+  EXPECT_FALSE(o.recognized);
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].text, "Not a Recognized Zythara Recipe File");
+  EXPECT_EQ(b.wb->recipe.rec.recipeName, "A Beer Recipe");
+
+  b.prompter.shown.clear();
+  o = importRecipe(*b.wb, std::string("junk, more\r\n<Recipe_Format_1.0>\r\n\r\n"));
+  EXPECT_FALSE(o.recognized);
+  EXPECT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.wb->recipe.rec.volumeUnits, 1);  // the new-recipe default, untouched
+
+  b.prompter.shown.clear();
+  o = importRecipe(*b.wb, std::string(""));
+  EXPECT_FALSE(o.recognized);
+  EXPECT_EQ(b.prompter.shown.size(), 1u);
+}
+
+TEST(RecipeExchange, ReaderActionsAndOlderForms) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  // Attributes before Name and Type are dropped; LF line ends read as well as CR LF.
+  readText(b, "<Recipe> Code=\"early\", Type=\"mead\", Code=\"late\", BoilTime=60\n"
+              "<Volume> Initial=4.5 gal, Final=junk\n"
+              "<Malt> Type=\"Liquid Extract\", Quantity=3\n"
+              "<Malt> Type=\"Next Pale\", Units=\"KG\"\n"
+              "<Malt> Type=\"Pale\", Mash=\"yes\"\n"
+              "<Malt> Type=\"Vienna\"\n"
+              "<Hops> Type=\"Cascade\", BoilTime=90, Units=\"stone\"\n"
+              "<Hops> Type=\"Saaz\", BoilTime=30\n"
+              "<Other> Units=\"mL\"\n"
+              "<Yeast> Attenuation=40, Units=\"tube\"\n"
+              "<Yeast> Attenuation=75\n"
+              "<Sparge> Quarts=3, Temp=168\n"
+              "<Conditioning> Container=\"Bottles & Kegs\", Carbonation=\"None\", Comments=\"a\xB8 b\"\n"
+              "<Aging> Count=2.5, Units=\"months\"\n"
+              "<Mash> Type=\"infusion\", Index=13, Temp=150, Index=12, Time=5\n"
+              "<Comments_Start>\n\"one, two\"\n<Comments_End>\n<End_Recipe_Format>\n");
+  const RecipeRecord& r = wb.recipe.rec;
+  EXPECT_EQ(r.recipeType, 2);
+  EXPECT_EQ(r.idCode, "late");
+  EXPECT_DOUBLE_EQ(r.boilVolume, 4.5);
+  EXPECT_DOUBLE_EQ(r.fermentVolume, 0);
+  EXPECT_EQ(r.volumeUnits, -1);  // no Units under <Volume>
+  ASSERT_EQ(r.itemCount, 9);
+  const auto& it = wb.recipe.items;
+  EXPECT_EQ(it[0].mashFlag, 0);           // "ext" in the name
+  EXPECT_EQ(it[0].quantityUnits, -1);     // no Units attribute
+  EXPECT_EQ(it[1].mashFlag, 0);           // Next Pale holds "ext" too
+  EXPECT_EQ(it[1].quantityUnits, UNIT_KG);
+  EXPECT_EQ(it[2].mashFlag, 0);           // only "Yes" exactly means mashed
+  EXPECT_EQ(it[3].mashFlag, -1);          // guessed from the name
+  EXPECT_EQ(it[4].quantityUnits, wb.defaults.hopsUnits);
+  EXPECT_DOUBLE_EQ(r.boilTime, 90);       // raised by the hops, not lowered again
+  EXPECT_EQ(it[6].quantityUnits, 10);
+  EXPECT_DOUBLE_EQ(it[7].rating, wb.defaults.yeastAttenuation);
+  EXPECT_EQ(it[7].quantityUnits, 3);
+  EXPECT_DOUBLE_EQ(it[8].rating, 0.75);
+  EXPECT_DOUBLE_EQ(r.spargeVolume, 12);   // quarts times 4, as the older reader did
+  EXPECT_EQ(r.spargeVolumeUnits, 1);
+  EXPECT_DOUBLE_EQ(r.spargeTemp, 168);
+  EXPECT_EQ(r.container, 2);
+  EXPECT_EQ(r.carbonation, 3);
+  EXPECT_EQ(r.primingComment, "a, b");
+  EXPECT_EQ(r.agingCount, 2);             // to the even neighbour
+  EXPECT_EQ(r.agingUnits, 2);
+  EXPECT_EQ(r.mashType, 2);
+  EXPECT_DOUBLE_EQ(r.mashStepTime[12], 5);
+  EXPECT_EQ(wb.recipe.comment, "one, two");
+
+  // A second <Recipe> after the end opens the flag again; its items add to the first ones.
+  readText(b, "<Recipe> Name=\"First\"\r\n<Other> Type=\"A\"\r\n<End_Recipe_Format>\r\n"
+              "<Other> Type=\"ignored\"\r\n<Recipe> Type=\"Ale\"\r\n<Other> Type=\"B\"\r\n");
+  ASSERT_EQ(wb.recipe.rec.itemCount, 2);
+  EXPECT_EQ(wb.recipe.items[1].itemName, "B");
+
+  // Sparge units spelled otherwise fall back to US Gallons; a unit-system code is read as such.
+  readText(b, "<Recipe> Name=\"S\"\r\n<Volume> Units=2\r\n<Volume> Units=1\r\n<Sparge> Units=\"liters\"\r\n");
+  EXPECT_EQ(wb.recipe.rec.unitType, 1);
+  EXPECT_EQ(wb.recipe.rec.volumeUnits, IMPERIAL_GAL_CONST);  // only set while still -1
+  EXPECT_EQ(wb.recipe.rec.spargeVolumeUnits, 1);
+  readText(b, "<Recipe> Name=\"S\"\r\n<Volume> Units=7\r\n");
+  EXPECT_EQ(wb.recipe.rec.unitType, 0);
+}
+
+TEST(RecipeExchange, AnErrorEndsTheReaderWithWhatWasRead) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  std::string many = "<Recipe> Name=\"Big\"\r\n";
+  for (int i = 0; i < 26; ++i) many += "<Other> Type=\"o" + itos(i) + "\"\r\n";
+  many += "<Aging> Count=3\r\n";
+  ImportOutcome o = readText(b, many);
+  EXPECT_TRUE(o.endedByError);
+  EXPECT_EQ(o.items, 25);
+  EXPECT_EQ(wb.recipe.rec.itemCount, 0);
+  EXPECT_EQ(wb.recipe.rec.recipeName, "Big");
+  EXPECT_EQ(wb.recipe.rec.agingCount, 0);
+  EXPECT_TRUE(b.prompter.shown.empty());  // no message of its own
+
+  o = readText(b, "<Recipe> Name=\"X\", BoilTime=sixty\r\n<Other> Type=\"o\"\r\n");
+  EXPECT_TRUE(o.endedByError);
+  EXPECT_EQ(wb.recipe.rec.boilTime, 60);
+  EXPECT_EQ(wb.recipe.rec.itemCount, 0);
+
+  o = readText(b, "<Recipe> Name=\"X\"\r\n<Bitterness> Value=99999\r\n");
+  EXPECT_TRUE(o.endedByError);
+
+  // The fermentation stage shares its variable with the mash step.
+  o = readText(b, "<Recipe> Name=\"X\"\r\n<Mash> Index=7\r\n<Fermentation> Units=\"Weeks\"\r\n");
+  EXPECT_TRUE(o.endedByError);
+}
+
+TEST(RecipeExchange, FieldStreamReadsQuotesAndLineEnds) {
+  ExchangeFieldReader in("  a , \"b, \"\"c\"\"\r\nd\" junk ,e\rf\n\n\ng,\"open");
+  std::string f;
+  std::vector<std::string> got;
+  while (in.next(f)) got.push_back(f);
+  EXPECT_EQ(got, (std::vector<std::string>{"a", "b, \"c\"\r\nd", "e", "f", "g", "open"}));
+  EXPECT_TRUE(in.eof());
+}
+
+TEST(RecipeExchange, FileNameHelpers) {
+  EXPECT_EQ(safeFileName("  My \"Best\" Ale: v1/2 | 'x' \\ ", true), "My_-Best-_Ale-_v1-2_-_-x-_-");
+  EXPECT_EQ(safeFileName(" Pale Ale ", false), "Pale Ale");
+  EXPECT_EQ(shortFileName("Amber Ale"), "ambral");
+  EXPECT_EQ(shortFileName("Oatmeal Stout"), "oatmlstt");
+  EXPECT_EQ(shortFileName("Club -- Irish Red Ale"), "irshrdal");
+  EXPECT_EQ(shortFileName("Eisbock"), "eisbck");
+  EXPECT_EQ(shortFileName("...  ---"), "beer");
+  EXPECT_EQ(shortFileName(""), "beer");
+  EXPECT_EQ(shortFileName("Strong Scotch Wee Heavy"), "strngsct");
+  EXPECT_EQ(escapeCommas("a,b,"), "a~b~");
+  const Measures& m = measures();
+  EXPECT_EQ(findListIndex(m.mashTypes, 5, "  decoction ", 0), 4);
+  EXPECT_EQ(findListIndex(m.mashTypes, 3, "Decoction", 9), 9);  // beyond the last index
+  EXPECT_EQ(findListIndex(m.vessels, 99, "Glass", 0), 1);       // no read past the list
+}
+
+TEST(RecipeExchange, BrokenInputNeverCrashes) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  fillMaerzen(wb);
+  const std::string good = exportRecipeText(wb);
+  for (size_t n = 0; n <= good.size(); ++n) {
+    importRecipe(wb, std::string_view(good).substr(0, n));
+    ASSERT_GE(wb.recipe.rec.itemCount, 0);
+    ASSERT_LE(wb.recipe.rec.itemCount, kMaxRecipeItems);
+  }
+  std::mt19937 rng(1234);
+  const std::vector<std::string> parts = {"<Recipe_Format_1.0>", "<Recipe>", "<Malt>", "<Hops>", "<Yeast>",
+                                          "<Other>", "<Mash>", "<Fermentation>", "<Sparge>", "<Aging>",
+                                          "<Comments_Start>", "<End_Recipe_Format>", "Name=", "Type=", "Index=",
+                                          "Units=", "Count=", "Value=", "Tertiary=", "Quarts=", "\"", ",", "~",
+                                          "\r\n", "\n", "\r", " ", "=", "<", ">", "99999999", "-3", "1e308",
+                                          "\xB8", "abc", "Temp=", "BoilTime=", std::string(1, '\0')};
+  for (int round = 0; round < 400; ++round) {
+    std::string text = round % 2 ? "<Recipe_Format_1.0>\r\n" : "";
+    int len = static_cast<int>(rng() % 120);
+    for (int i = 0; i < len; ++i) text += parts[rng() % parts.size()];
+    importRecipe(wb, text);
+    ASSERT_GE(wb.recipe.rec.itemCount, 0);
+    ASSERT_LE(wb.recipe.rec.itemCount, kMaxRecipeItems);
+    ASSERT_LE(wb.recipe.rec.recipeName.size(), 60u);
+    std::string bytes;
+    for (int i = 0; i < 200; ++i) bytes += static_cast<char>(rng() % 256);
+    importRecipe(wb, "<Recipe_Format_1.0>\r\n" + bytes);
+  }
+  // Whatever the reader left can be written again.
+  EXPECT_FALSE(exportRecipeText(wb).empty());
+}
+
+}  // namespace
+}  // namespace zy

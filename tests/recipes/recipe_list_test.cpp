@@ -1,0 +1,615 @@
+// The recipe list model: the tree and its sort modes, the numbering of doubled names, the scan,
+// the window's procedures and the list in its file form.
+#include <gtest/gtest.h>
+
+#include <map>
+#include <random>
+
+#include "batchlog/BatchLogCount.h"
+#include "core/records.h"
+#include "core/text.h"
+#include "recipes/RecipeExchange.h"
+#include "recipes/RecipeList.h"
+#include "recipes/RecipeStore.h"
+#include "support/TestSupport.h"
+
+namespace zy {
+namespace {
+
+using test::Bench;
+using test::readFile;
+
+struct Stored {
+  std::string name;
+  std::string style = "";
+  int type = 0;
+  std::string date = "Oct-05-1998";
+  int mash = 0;
+};
+
+// Saves a recipe at record `no` (the store fills a gap with free slots).
+void store(Workbench& wb, int no, const Stored& s) {
+  newRecipeRecord(wb);
+  RecipeRecord& r = wb.recipe.rec;
+  r.recipeNo = no;
+  r.recipeName = s.name;
+  r.beerStyle = s.style;
+  r.recipeType = s.type;
+  r.dateCreated = s.date;
+  r.mashType = s.mash;
+  ASSERT_TRUE(saveCurrentRecipe(wb));
+}
+
+std::vector<std::string> shownTree(const RecipeList& list) {
+  std::vector<std::string> v{list.lblTitle};
+  for (const RecipeNode* n : list.tree.displayOrder()) v.push_back((n->isLeaf() ? "  " : "") + n->text);
+  return v;
+}
+
+std::string recipeFile(const Bench& b) { return b.wb->folder.dataFile(kRecipeFile); }
+
+TEST(RecipeList, NumberingRuleReadsTheDigitsBackwards) {
+  auto num = [](const std::string& s) { return RecipeList::numberedName(s).value_or("<overflow>"); };
+  EXPECT_EQ(num("Amber"), "Amber 1");
+  EXPECT_EQ(num("Amber 1"), "Amber 2");
+  EXPECT_EQ(num("Amber 9"), "Amber 10");
+  EXPECT_EQ(num("Amber 10"), "Amber 12");  // reversed "01" reads as 1
+  EXPECT_EQ(num("Amber 12"), "Amber 22");  // reversed "21": the last two characters go
+  EXPECT_EQ(num("Amber 123"), "Amber 1322");
+  EXPECT_EQ(num("Brew 1a"), "Brew 1a 1");  // reversed text begins with a letter
+  EXPECT_EQ(num("7"), "8");
+  EXPECT_EQ(num(""), " 1");
+  EXPECT_EQ(num("Beer 5-"), "Beer 5- 1");   // reversed "-5" is below 1
+  EXPECT_EQ(num("Amber 99999"), "<overflow>");  // no 16-bit number
+}
+
+TEST(RecipeList, DoubledNamesAreNumberedByTagWhileTheFileKeepsItsName) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  for (int i = 1; i <= 12; ++i) store(wb, i, {"Amber"});
+  store(wb, 13, {"Amber 9"});
+  RecipeList& list = wb.recipeList;
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
+  std::vector<std::string> tags;
+  for (int i = 1; i <= 13; ++i) tags.push_back(list.tree.find("R" + itos(i))->tag);
+  EXPECT_EQ(tags, (std::vector<std::string>{"Amber", "Amber 1", "Amber 2", "Amber 3", "Amber 4", "Amber 5", "Amber 6",
+                                            "Amber 7", "Amber 8", "Amber 9", "Amber 10", "Amber 12", "Amber 22"}));
+  EXPECT_EQ(list.lblTitle, " Sorted By Name: 13");
+  EXPECT_EQ(list.tree.tag, "13");
+  EXPECT_EQ(list.currentRecipeKey, "R13");
+  // The scan never writes: record 2 still holds the plain name.
+  ASSERT_TRUE(loadRecipe(wb, 2));
+  EXPECT_EQ(trim(wb.recipe.rec.recipeName), "Amber");
+
+  // A later add (the editor's save of a new recipe) takes the next free number and changes
+  // the current recipe's name, which the caller then saves.
+  newRecipeRecord(wb);
+  wb.recipe.rec.recipeNo = 14;
+  wb.recipe.rec.recipeName = "  Amber  ";
+  ASSERT_TRUE(list.addToRecipeList(wb, true));
+  EXPECT_EQ(wb.recipe.rec.recipeName, "Amber 23");
+  EXPECT_EQ(list.selectedKey, "R14");
+  EXPECT_TRUE(list.deleteEnabled && list.exportEnabled && list.genHTMLEnabled);
+  EXPECT_EQ(list.lblTitle, " Sorted By Name: 14");
+}
+
+TEST(RecipeList, AChainOfNumberedNamesEndsWhenItsNumberOutgrowsSixteenBits) {
+  // Amber, Amber 1 ... Amber 10, Amber 12, 22, 23, 33, 34 ... 99, 100, 102, 1202, 122022: 31 names.
+  Bench b;
+  Workbench& wb = *b.wb;
+  RecipeList& list = wb.recipeList;
+  list.sortMode = SORT_BY_NAME;
+  for (int no = 1; no <= 32; ++no) {
+    wb.recipe.rec = RecipeRecord{};
+    wb.recipe.rec.recipeNo = no;
+    wb.recipe.rec.recipeName = "Amber";
+    EXPECT_EQ(list.addToRecipeList(wb, false), no <= 31) << no;
+  }
+  EXPECT_EQ(list.tree.find("R14")->tag, "Amber 23");
+  EXPECT_EQ(list.tree.find("R15")->tag, "Amber 33");
+  EXPECT_EQ(list.tree.find("R31")->tag, "Amber 122022");
+  EXPECT_EQ(list.tree.find("R32"), nullptr);
+  EXPECT_EQ(list.tree.tag, "31");
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].text, "In AddToRecipeList: Overflow");
+  EXPECT_EQ(b.prompter.shown[0].title, "Error");
+}
+
+TEST(RecipeList, FastDoubledNameCheckGivesTheResultsOfTheFullWalk) {
+  // A reference that walks every node's Tag after each renaming, against the model, over random
+  // adds, deletes and renames of names whose numbering chains run into each other.
+  Bench b;
+  Workbench& wb = *b.wb;
+  RecipeList& list = wb.recipeList;
+  list.sortMode = SORT_BY_STYLE;
+  const std::vector<std::string> pool = {"Amber", "Amber 1", "Amber 9", "Amber 10", "Parent", "Stout 12",
+                                         "Ale 10", "X", "Amber 22"};
+  std::map<std::string, std::string> tagOf;  // key -> Tag, groups included
+  auto walk = [&](std::string name) -> std::optional<std::string> {
+    for (;;) {
+      bool taken = false;
+      for (const auto& kv : tagOf) taken |= kv.second == name;
+      if (!taken) return name;
+      auto next = RecipeList::numberedName(name);
+      if (!next) return std::nullopt;
+      name = *next;
+    }
+  };
+  std::mt19937 rng(99);
+  int no = 0;
+  std::vector<std::string> leaves;
+  for (int step = 0; step < 3000; ++step) {
+    unsigned op = rng() % 10;
+    if (op < 7 || leaves.empty()) {
+      std::string name = pool[rng() % pool.size()];
+      std::string style = "S" + itos(rng() % 3);
+      auto expected = walk(name);
+      wb.recipe.rec = RecipeRecord{};
+      wb.recipe.rec.recipeNo = ++no;
+      wb.recipe.rec.recipeName = name;
+      wb.recipe.rec.beerStyle = style;
+      ASSERT_EQ(list.addToRecipeList(wb, false), expected.has_value()) << step;
+      if (!expected) continue;
+      ASSERT_EQ(wb.recipe.rec.recipeName, *expected) << step;
+      if (!tagOf.count(style)) tagOf[style] = "Parent";
+      tagOf["R" + itos(no)] = *expected;
+      leaves.push_back("R" + itos(no));
+    } else if (op < 9) {
+      size_t i = rng() % leaves.size();
+      ASSERT_TRUE(list.tree.remove(leaves[i]));
+      tagOf.erase(leaves[i]);
+      leaves.erase(leaves.begin() + static_cast<long>(i));
+    } else {
+      // The editor's save may give a leaf a new Tag.
+      size_t i = rng() % leaves.size();
+      std::string t = pool[rng() % pool.size()];
+      list.tree.setTag(leaves[i], t);
+      tagOf[leaves[i]] = t;
+    }
+  }
+  EXPECT_GT(leaves.size(), 100u);
+}
+
+TEST(RecipeList, ANumberedNameStaysWithinTheSixtyCharactersOfTheRecord) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  const std::string full(60, 'x');
+  store(wb, 1, {full});
+  store(wb, 2, {full});
+  store(wb, 3, {full});
+  RecipeList& list = wb.recipeList;
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
+  EXPECT_EQ(list.tree.find("R2")->tag, std::string(58, 'x') + " 1");
+  EXPECT_EQ(list.tree.find("R3")->tag, std::string(58, 'x') + " 2");
+}
+
+TEST(RecipeList, SortModesGroupAndOrderTheLeaves) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  store(wb, 1, {"pale", "Pale Ale", 0, "Oct-05-1998", 2});
+  store(wb, 2, {"Bock", "0", 1, "Mar-01-2001", 3});
+  store(wb, 3, {"Cider Time", "", 3, "", 0});
+  store(wb, 4, {"Amber", "Pale Ale", 0, "Jan-15-1998", 2});
+  RecipeList& list = wb.recipeList;
+
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
+  EXPECT_EQ(shownTree(list), (std::vector<std::string>{" Sorted By Name: 4", "  Amber", "  Bock", "  Cider Time",
+                                                       "  pale"}));
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_STYLE));
+  EXPECT_EQ(shownTree(list),
+            (std::vector<std::string>{" Sorted By Beer Style: 4", "<Not Specified>", "  Bock", "  Cider Time",
+                                      "Pale Ale", "  Amber", "  pale"}));
+  const RecipeNode* g = list.tree.find("Pale Ale");
+  ASSERT_NE(g, nullptr);
+  EXPECT_EQ(g->tag, "Parent");
+  EXPECT_EQ(g->image, "ClosedBook");
+  EXPECT_TRUE(list.tree.setExpanded("Pale Ale", true));
+  EXPECT_EQ(list.tree.find("Pale Ale")->image, "OpenBook");
+  EXPECT_EQ(list.tree.find("R1")->parent, "Pale Ale");
+
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_TYPE));
+  EXPECT_EQ(shownTree(list), (std::vector<std::string>{" Sorted By Type: 4", "Ale", "  Amber", "  pale", "Cider",
+                                                       "  Cider Time", "Lager", "  Bock"}));
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_DATE));
+  EXPECT_EQ(shownTree(list),
+            (std::vector<std::string>{" Sorted By Date: 4", "Unknown Creation Date", "  Cider Time", "Year 1998",
+                                      "  1998-01-15 - Amber", "  1998-10-05 - pale", "Year 2001",
+                                      "  2001-03-01 - Bock"}));
+  // The date prefix never enters the Tag.
+  EXPECT_EQ(list.tree.find("R4")->tag, "Amber");
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_MASH));
+  EXPECT_EQ(shownTree(list), (std::vector<std::string>{" Sorted By Mash Type: 4", "Infusion", "  Amber", "  pale",
+                                                       "No Mash", "  Cider Time", "Step Infusion", "  Bock"}));
+
+  // Choosing the mode in force does nothing, not even a refresh.
+  store(wb, 5, {"Zed"});
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_MASH));
+  EXPECT_EQ(list.lblTitle, " Sorted By Mash Type: 4");
+  EXPECT_EQ(list.tree.find("R5"), nullptr);
+}
+
+TEST(RecipeList, GroupTagsNumberARecipeCalledParent) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  store(wb, 1, {"Amber"});
+  store(wb, 2, {"Parent", "", 1});
+  RecipeList& list = wb.recipeList;
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
+  EXPECT_EQ(list.tree.find("R2")->tag, "Parent");  // no groups by name
+  // By type the group "Ale" (Tag "Parent") stands before the second recipe is checked.
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_TYPE));
+  EXPECT_EQ(list.tree.find("R2")->tag, "Parent 1");
+  EXPECT_EQ(list.tree.find("R2")->text, "Parent 1");
+  // uniqueName looks at leaves only.
+  EXPECT_EQ(list.uniqueName("Parent"), "Parent");
+  EXPECT_EQ(list.uniqueName("Parent 1"), "Parent 1 (Duplicate)");
+}
+
+TEST(RecipeList, UnreadableDateOrListCodeLeavesTheRecipeOutWithAMessage) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  store(wb, 1, {"Good"});
+  store(wb, 2, {"Bad Date", "", 0, "sometime"});
+  store(wb, 3, {"Bad Type", "", 17});
+  RecipeList& list = wb.recipeList;
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_DATE));
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].text, "In AddToRecipeList: Type mismatch");
+  EXPECT_EQ(b.prompter.shown[0].title, "Error");
+  EXPECT_EQ(list.lblTitle, " Sorted By Date: 2");
+  EXPECT_EQ(list.tree.find("R2"), nullptr);
+
+  b.prompter.shown.clear();
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_TYPE));
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].text, "In AddToRecipeList: Subscript out of range");
+  EXPECT_EQ(list.tree.tag, "2");
+}
+
+TEST(RecipeList, ScanStopsAtACorruptedRecordAndSetsTheNextSlot) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  RecipeList& list = wb.recipeList;
+  // Missing file: empty tree, count 0, next slot 1.
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
+  EXPECT_EQ(list.lblTitle, " Sorted By Name: 0");
+  EXPECT_EQ(findNextRecipeSlot(wb), 1);
+
+  store(wb, 1, {"One"});
+  store(wb, 3, {"Three"});  // record 2 is a free slot
+  store(wb, 4, {"Four"});
+  store(wb, 5, {"Five"});
+  list.sortMode = -1;
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
+  EXPECT_EQ(wb.recipeSlotPosition, 2);
+  EXPECT_EQ(list.recordCounter, 6);
+
+  // Break the end code of record 4.
+  {
+    RecordFile f(recipeFile(b), RecipeRecord::kLength);
+    std::string buf;
+    ASSERT_TRUE(f.read(4, buf));
+    putI16(buf, RecipeRecord::kLength - 2, 298);
+    f.write(4, buf);
+  }
+  list.sortMode = -1;
+  EXPECT_FALSE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].text,
+            "Corrupted Recipe Record in " + recipeFile(b) + " at Line 4, No More Recipes Loaded");
+  EXPECT_EQ(shownTree(list), (std::vector<std::string>{" Sorted By Name: 2", "  One", "  Three"}));
+  EXPECT_NE(readFile(wb.folder.file(kErrorLog)).find("In Function RecipeList!mnuSortBy_Click"), std::string::npos);
+
+  // A full file: the slot lies one past the end.
+  Bench c;
+  store(*c.wb, 1, {"A"});
+  store(*c.wb, 2, {"B"});
+  ASSERT_TRUE(c.wb->recipeList.mnuSortBy_Click(*c.wb, SORT_BY_NAME));
+  EXPECT_EQ(c.wb->recipeSlotPosition, 3);
+}
+
+TEST(RecipeList, TwoRecordsClaimingOneNumberGiveOneMessageAndOneLeaf) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  store(wb, 1, {"Amber"});
+  store(wb, 2, {"Amber"});
+  {
+    RecordFile f(recipeFile(b), RecipeRecord::kLength);
+    std::string buf;
+    ASSERT_TRUE(f.read(2, buf));
+    putI16(buf, 2, 1);  // record 2 claims number 1
+    f.write(2, buf);
+  }
+  RecipeList& list = wb.recipeList;
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].text, "Duplicate Recipe Name: Amber 1, Changed and Added");
+  EXPECT_EQ(b.prompter.shown[0].title, "Zythara Recipes");
+  EXPECT_EQ(shownTree(list), (std::vector<std::string>{" Sorted By Name: 1", "  Amber"}));
+}
+
+std::string batchLog(int recipeNo, bool sound = true) {
+  std::string rec(kBatchLogRecordLength, ' ');
+  putI16(rec, 0, 200);
+  putI16(rec, 2, recipeNo);
+  putI16(rec, 4, 1);
+  putI16(rec, kBatchLogRecordLength - 2, sound ? 299 : 7);
+  return rec;
+}
+
+TEST(RecipeList, LogSuffixShowsBatchLogCountsWithoutTouchingTheTag) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  store(wb, 1, {"Amber"});
+  store(wb, 2, {"Stout"});
+  RecipeList& list = wb.recipeList;
+  list.mnuSortLogCount = true;
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_DATE));
+  EXPECT_EQ(list.tree.find("R1")->text, "1998-10-05 - Amber");  // no log file: no suffix
+  EXPECT_FALSE(fileExists(wb.folder.dataFile(kBatchLogFile)));
+
+  test::writeFile(wb.folder.dataFile(kBatchLogFile),
+                  batchLog(1) + batchLog(2, false) + batchLog(0) + batchLog(1) + batchLog(7));
+  list.mnuSortLogCount = false;
+  list.mnuSortLogCount_Click(wb);  // flips the check on and rebuilds in the same mode
+  EXPECT_TRUE(list.mnuSortLogCount);
+  EXPECT_EQ(list.sortMode, SORT_BY_DATE);
+  EXPECT_EQ(list.tree.find("R1")->text, "1998-10-05 - Amber - <Batch Log: 2>");
+  EXPECT_EQ(list.tree.find("R1")->tag, "Amber");
+  EXPECT_EQ(list.tree.find("R2")->text, "1998-10-05 - Stout");
+  // The bad record is reported once for the whole rebuild.
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].text, "Corrupted BatchLog Record(s) in " + wb.folder.dataFile(kBatchLogFile) +
+                                          ", Bad Records Ignored");
+  EXPECT_EQ(countBatchLogs(wb, 1), 2);
+  EXPECT_EQ(countBatchLogs(wb, 7), 1);
+
+  list.mnuSortLogCount_Click(wb);
+  EXPECT_EQ(list.tree.find("R1")->text, "1998-10-05 - Amber");
+}
+
+TEST(RecipeList, UniqueNameAddsDuplicateOnceAndReplaceTextScansFromTheLeft) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  store(wb, 1, {"Amber"});
+  store(wb, 2, {"Amber (Duplicate)"});
+  ASSERT_TRUE(wb.recipeList.mnuSortBy_Click(wb, SORT_BY_STYLE));
+  EXPECT_EQ(uniqueName(wb, "Amber"), "Amber (Duplicate)");  // no second check
+  EXPECT_EQ(uniqueName(wb, "amber"), "amber");
+  EXPECT_EQ(uniqueName(wb, "Stout"), "Stout");
+  EXPECT_EQ(replaceText("a,b,,c", ",", "~"), "a~b~~c");
+  EXPECT_EQ(replaceText("aaa", "aa", "bb"), "bba");
+  EXPECT_EQ(replaceText("x", "", "y"), "x");
+}
+
+TEST(RecipeList, DeleteAsksAndKeepsAnEmptiedGroupUntilTheRebuild) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  store(wb, 1, {"Amber", "Red Ale"});
+  store(wb, 2, {"Stout", "Dry Stout"});
+  RecipeList& list = wb.recipeList;
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_STYLE));
+  list.select("Red Ale");
+  EXPECT_FALSE(list.deleteEnabled);
+  EXPECT_FALSE(list.mnuFileDelete_Click(wb));  // a group: nothing asked
+  EXPECT_TRUE(b.prompter.shown.empty());
+
+  list.select("R1");
+  EXPECT_TRUE(list.deleteEnabled);
+  b.prompter.answers = {Answer::No, Answer::Yes};
+  EXPECT_FALSE(list.mnuFileDelete_Click(wb));
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].text, "Do you want to Delete the \"Amber\" Recipe?");
+  EXPECT_EQ(b.prompter.shown[0].title, "Recipe Delete");
+  EXPECT_EQ(b.prompter.shown[0].buttons, Buttons::YesNo);
+  EXPECT_NE(list.tree.find("R1"), nullptr);
+
+  EXPECT_TRUE(list.mnuFileDelete_Click(wb));
+  EXPECT_EQ(shownTree(list), (std::vector<std::string>{" Sorted By Beer Style: 1", "Dry Stout", "  Stout", "Red Ale"}));
+  EXPECT_FALSE(list.deleteEnabled);
+  {
+    RecordFile f(recipeFile(b), RecipeRecord::kLength);
+    std::string buf;
+    ASSERT_TRUE(f.read(1, buf));
+    EXPECT_EQ(getI16(buf, 2), 0);
+  }
+  // The name is free again.
+  EXPECT_EQ(list.uniqueName("Amber"), "Amber");
+  list.sortMode = -1;
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_STYLE));
+  EXPECT_EQ(list.tree.find("Red Ale"), nullptr);
+}
+
+TEST(RecipeList, OpenAsksAboutAChangedRecipeAndLoadsTheLeaf) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  store(wb, 1, {"Amber"});
+  store(wb, 2, {"Stout"});
+  RecipeList& list = wb.recipeList;
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_TYPE));
+  int saves = 0, prepared = 0, populated = 0;
+  RecipeOpenHooks hooks{[] { return true; }, [&] { ++saves; }, [&] { ++prepared; }, [&] { ++populated; }};
+
+  EXPECT_FALSE(list.openRecipe(wb, "Ale", hooks));  // a group opens nothing
+  b.prompter.answers = {Answer::Cancel};
+  EXPECT_FALSE(list.openRecipe(wb, "R1", hooks));
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].text, "Recipe has Changed, Save Changes?");
+  EXPECT_EQ(b.prompter.shown[0].title, "Save Recipe");
+  EXPECT_EQ(b.prompter.shown[0].buttons, Buttons::YesNoCancel);
+  EXPECT_EQ(prepared + populated + saves, 0);
+
+  b.prompter.answers = {Answer::Yes};
+  EXPECT_TRUE(list.openRecipe(wb, "R1", hooks));
+  EXPECT_EQ(saves, 1);
+  EXPECT_EQ(populated, 1);
+  EXPECT_EQ(list.currentRecipeKey, "R1");
+  EXPECT_EQ(trim(wb.recipe.rec.recipeName), "Amber");
+
+  b.prompter.answers = {Answer::No};
+  EXPECT_TRUE(list.openRecipe(wb, "R2", hooks));
+  EXPECT_EQ(saves, 1);
+  EXPECT_EQ(trim(wb.recipe.rec.recipeName), "Stout");
+}
+
+TEST(RecipeList, NewTakesASlotButReachesNeitherTreeNorFile) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  store(wb, 1, {"Amber"});
+  RecipeList& list = wb.recipeList;
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
+  EXPECT_EQ(list.mnuFileNew_Click(wb), 2);
+  EXPECT_EQ(wb.recipe.rec.recipeNo, 2);
+  EXPECT_EQ(wb.recipe.rec.recipeName, "A Beer Recipe");
+  EXPECT_EQ(wb.recipe.rec.dateCreated, "Nov-22-2026");
+  EXPECT_EQ(list.tree.size(), 1u);
+  EXPECT_EQ(readFile(recipeFile(b)).size(), RecipeRecord::kLength);
+}
+
+TEST(RecipeList, SettingsOfTheWindow) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  store(wb, 1, {"Amber", "", 2});
+  RecipeListSettings s = RecipeListSettings::read(wb);
+  EXPECT_EQ(s.mainLeft, 1000);
+  EXPECT_EQ(s.mainTop, 2000);
+  EXPECT_EQ(s.mainWidth, 4000);
+  EXPECT_EQ(s.mainHeight, 6500);
+  EXPECT_EQ(s.sortBy, 0);
+  EXPECT_FALSE(s.showLogCount);
+
+  b.settings.write("Recipe List", "Sort By", "2");
+  b.settings.write("Recipe List", "Show Log Count", "True");
+  RecipeList& list = wb.recipeList;
+  list.formLoad(wb);
+  EXPECT_EQ(list.sortMode, SORT_BY_TYPE);
+  EXPECT_TRUE(list.mnuSortLogCount);
+  EXPECT_EQ(shownTree(list), (std::vector<std::string>{" Sorted By Type: 1", "Mead", "  Amber"}));
+
+  list.mnuSortBy_Click(wb, SORT_BY_DATE);
+  list.mnuSortLogCount_Click(wb);
+  list.saveSettings(wb);
+  EXPECT_EQ(b.settings.read("Recipe List", "Sort By", ""), "3");
+  EXPECT_EQ(b.settings.read("Recipe List", "Show Log Count", ""), "False");
+}
+
+TEST(RecipeList, ListFileHoldsTheRowsInTreeOrderWithCrLf) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  newRecipeRecord(wb);
+  RecipeRecord& r = wb.recipe.rec;
+  r.recipeNo = 1;
+  r.recipeName = "Zed Pale";
+  r.mashType = 2;
+  r.originalGravity = 1.0504;
+  r.finalGravity = 1.0125;
+  r.color = 12.25;
+  r.bitterness = 31;
+  r.alcohol = 5.06;
+  ASSERT_TRUE(saveCurrentRecipe(wb));
+  store(wb, 2, {"Amber"});
+  RecipeList& list = wb.recipeList;
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
+  wb.recipe.rec.recipeName = "untouched";
+  const std::string path = b.dir.file("list.txt");
+  ASSERT_TRUE(list.printRecipeListToFile(wb, path));
+  EXPECT_EQ(readFile(path), "Zythara Recipe List\r\n"
+                            "Date:         11/22/2026 10:30:00 AM\r\n"
+                            "\r\n"
+                            "Recipe Name,Type,OG/FG,Color,IBU,Alcohol\r\n" +
+                                fixedText("Amber", 60) + ",No Mash,0.000/0.000,0.0,0.0,0.0%,\r\n" +
+                                fixedText("Zed Pale", 60) + ",Infusion,1.050/1.013,12.3,31.0,5.1%,\r\n");
+  EXPECT_EQ(wb.recipe.rec.recipeName, "untouched");
+
+  EXPECT_FALSE(list.printRecipeListToFile(wb, b.dir.file("no/such/folder/list.txt")));
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].text, "Unable to Generate Output File");
+  EXPECT_EQ(b.prompter.shown[0].title, "Error");
+}
+
+TEST(RecipeList, ImportSequenceNumbersSavesAndRemembersTheFolder) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  store(wb, 1, {"Amber"});
+  RecipeList& list = wb.recipeList;
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
+  const std::string file = b.dir.file("in.zyr");
+  test::writeFile(file, "<Recipe_Format_1.0>\r\n<Recipe> Type=\"Lager\", Name=\"Amber\", BoilTime=75\r\n"
+                        "<Hops> Type=\"Saaz\", Quantity=1.5, Units=\"Oz\", Alpha=3.5, BoilTime=90\r\n"
+                        "<End_Recipe_Format>\r\n");
+  EXPECT_EQ(list.importRecipeFile(wb, file), 2);
+  EXPECT_EQ(b.settings.read("Recipe List", "Import Path", "?"), b.dir.path());
+  EXPECT_EQ(list.selectedKey, "R2");
+  EXPECT_EQ(list.lblTitle, " Sorted By Name: 2");
+  ASSERT_TRUE(loadRecipe(wb, 2));
+  EXPECT_EQ(trim(wb.recipe.rec.recipeName), "Amber (Duplicate)");
+  EXPECT_EQ(wb.recipe.rec.recipeType, 1);
+  EXPECT_EQ(wb.recipe.rec.boilTime, 90);
+  ASSERT_EQ(wb.recipe.rec.itemCount, 1);
+  EXPECT_EQ(trim(wb.recipe.items[0].itemName), "Saaz");
+
+  // A file the reader refuses still adds the default recipe, numbered when its name is taken.
+  test::writeFile(file, "just text\r\n");
+  EXPECT_EQ(list.importRecipeFile(wb, file), 3);
+  EXPECT_EQ(list.importRecipeFile(wb, file), 4);
+  EXPECT_EQ(list.tree.find("R3")->tag, "A Beer Recipe");
+  EXPECT_EQ(list.tree.find("R4")->tag, "A Beer Recipe 1");
+  ASSERT_TRUE(loadRecipe(wb, 4));
+  EXPECT_EQ(trim(wb.recipe.rec.recipeName), "A Beer Recipe 1");
+}
+
+TEST(RecipeList, ExportSequenceProposesANameAndWritesTheFile) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  store(wb, 1, {"Bob's \"Best\" Bitter: No/1"});
+  RecipeList& list = wb.recipeList;
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
+  ASSERT_TRUE(loadRecipe(wb, 1));
+  EXPECT_EQ(list.proposedExportName(wb), "Bob-s_-Best-_Bitter-_No-1.zyr");
+  wb.defaults.unixFilenames = 0;
+  EXPECT_EQ(list.proposedExportName(wb), "Bob-s -Best- Bitter- No-1.zyr");
+  wb.defaults.shortFilenames = 1;
+  EXPECT_EQ(list.proposedExportName(wb), "bobsbstb.zyr");
+
+  const std::string out = b.dir.file("out.zyr");
+  EXPECT_FALSE(list.exportRecipeFile(wb, "R9", out));  // no such leaf
+  ASSERT_TRUE(list.exportRecipeFile(wb, "R1", out));
+  EXPECT_EQ(b.settings.read("Recipe List", "Export Path", "?"), b.dir.path());
+  std::string text = readFile(out);
+  EXPECT_EQ(text.substr(0, 21), "<Recipe_Format_1.0>\r\n");
+  EXPECT_NE(text.find("Name=\"Bob's \"Best\" Bitter: No/1\""), std::string::npos);
+}
+
+TEST(RecipeList, TreeKeepsLevelsSortedAndTagsCounted) {
+  RecipeTree t;
+  EXPECT_EQ(t.add("", "G", "G", "ClosedBook"), RecipeTree::AddResult::Added);
+  EXPECT_EQ(t.add("Nope", "R1", "x", "Leaf"), RecipeTree::AddResult::MissingParent);
+  EXPECT_EQ(t.add("G", "R1", "beta", "Leaf"), RecipeTree::AddResult::Added);
+  EXPECT_EQ(t.add("G", "R2", "Alpha", "Leaf"), RecipeTree::AddResult::Added);
+  EXPECT_EQ(t.add("G", "R3", "alpha", "Leaf"), RecipeTree::AddResult::Added);
+  EXPECT_EQ(t.add("G", "R1", "again", "Leaf"), RecipeTree::AddResult::KeyExists);
+  EXPECT_EQ(t.add("R1", "R4", "under a leaf", "Leaf"), RecipeTree::AddResult::MissingParent);
+  std::vector<std::string> keys;
+  for (const RecipeNode* n : t.children("G")) keys.push_back(n->key);
+  EXPECT_EQ(keys, (std::vector<std::string>{"R2", "R3", "R1"}));
+  t.setText("R1", "Aardvark");
+  keys.clear();
+  for (const RecipeNode* n : t.children("G")) keys.push_back(n->key);
+  EXPECT_EQ(keys, (std::vector<std::string>{"R1", "R2", "R3"}));
+
+  t.setTag("R1", "Amber");
+  t.setTag("G", "Parent");
+  EXPECT_TRUE(t.tagInUse("Amber"));
+  EXPECT_TRUE(t.leafTagInUse("Amber"));
+  EXPECT_TRUE(t.tagInUse("Parent"));
+  EXPECT_FALSE(t.leafTagInUse("Parent"));
+  t.setTag("R1", "Stout");
+  EXPECT_FALSE(t.tagInUse("Amber"));
+  EXPECT_TRUE(t.remove("G"));
+  EXPECT_EQ(t.size(), 0u);
+  EXPECT_FALSE(t.tagInUse("Stout"));
+  EXPECT_FALSE(t.tagInUse("Parent"));
+}
+
+}  // namespace
+}  // namespace zy

@@ -1,0 +1,141 @@
+#include <gtest/gtest.h>
+
+#include "core/measures.h"
+#include "recipes/RecipeEditor.h"
+#include "recipes/RecipeStore.h"
+#include "recipes/ScaleDialog.h"
+#include "support/TestSupport.h"
+
+using namespace zy;
+using namespace zy::test;
+
+namespace {
+// A new recipe of 5 US gallons (boil 3.5): 10 lbs of pale malt, 2 oz of hops, a teaspoon of
+// moss, 4 US fluid ounces of a liquid, one packet of yeast.
+struct ScaleBench {
+  Bench b;
+  Workbench& wb = *b.wb;
+  RecipeEditor e{wb};
+  ScaleBench() {
+    newRecipeRecord(wb);
+    e.initRecipeForm();
+    e.populateRecipeForm();
+    e.AddIngredient(KIND_MALT, "Pale", 10, UNIT_LBS, 1.00, 1.036, 3, 0);
+    e.AddIngredient(KIND_HOPS, "Cascade", 2, UNIT_OZ, 1.25, 5.5, 60, 0);
+    e.AddIngredient(KIND_OTHER, "Irish Moss", 1, 5, 0.35, 0, 0, 0);
+    e.AddIngredient(KIND_OTHER, "Lactic Acid", 4, 8, 0.50, 0, 0, 0);
+    e.AddIngredient(KIND_YEAST, "Ale Yeast", 1, 0, 4.00, 0.75, 0, 0);
+    e.rescaled();
+    e.recReset();
+  }
+  std::string cell(int r, int c) const { return e.sheet.grid.cell(r, c); }
+};
+}  // namespace
+
+TEST(ScaleDialog, DoublingTheVolumeDoublesEveryQuantityAndKeepsTheCharacter) {
+  ScaleBench t;
+  EXPECT_EQ(t.e.sheet.lblOG, "1.072");
+  const std::string ibu = t.e.sheet.lblIBU, color = t.e.sheet.lblColor;
+  ScaleDialog d;
+  d.open(t.e);
+  EXPECT_EQ(d.txtVolume, "5.0");
+  EXPECT_EQ(d.cboVolume, US_GAL_CONST);
+  EXPECT_EQ(d.optUnits, US_MEASURES);
+  d.txtVolume = "10";
+  ASSERT_TRUE(d.apply(t.e));
+  EXPECT_EQ(t.cell(1, COL_QTY), "20.0");
+  EXPECT_EQ(t.cell(1, COL_COST), "$1.00");
+  EXPECT_EQ(t.cell(3, COL_QTY), "4.0");
+  EXPECT_EQ(t.cell(5, COL_QTY), "2.0");
+  EXPECT_EQ(t.cell(6, COL_QTY), "8.0");
+  EXPECT_EQ(t.cell(8, COL_QTY), "2.0");
+  EXPECT_EQ(t.e.sheet.txtFermentVolume, "10.0");
+  EXPECT_EQ(t.e.sheet.txtInitalBoilVolume, "7.0");
+  EXPECT_EQ(t.e.sheet.lblOG, "1.072");
+  EXPECT_EQ(t.e.sheet.lblColor, color);
+  EXPECT_EQ(t.e.sheet.lblIBU, ibu);
+  EXPECT_EQ(t.cell(t.e.sheet.grid.totalRow(), COL_COST), "$37.70");
+  EXPECT_TRUE(t.e.recipeChanged());
+}
+
+TEST(ScaleDialog, MetricSystemConvertsUnitsByTheTables) {
+  ScaleBench t;
+  ScaleDialog d;
+  d.open(t.e);
+  d.setUnitSystem(METRIC_MEASURES);  // proposes liters, the same volume
+  EXPECT_EQ(d.cboVolume, LITER_CONST);
+  EXPECT_EQ(d.txtVolume, "18.9");
+  d.txtVolume = "20";
+  ASSERT_TRUE(d.apply(t.e));
+  // 10 lbs * 1.0567 = 10.567 lbs = 4.793 kg, brought to a multiple of 0.05.
+  EXPECT_EQ(t.cell(1, COL_QTY), "4.8");
+  EXPECT_EQ(t.cell(1, COL_UNITS), "Kg");
+  EXPECT_EQ(t.e.sheet.grid.unitCode(1), UNIT_KG);
+  EXPECT_EQ(t.cell(1, COL_COST), "$2.20");
+  EXPECT_EQ(t.cell(3, COL_QTY), "59.9");
+  EXPECT_EQ(t.cell(3, COL_UNITS), "Gr");
+  EXPECT_EQ(t.cell(3, COL_COST), "$0.04");
+  EXPECT_EQ(t.cell(5, COL_QTY), "1.06");  // teaspoons stay teaspoons
+  EXPECT_EQ(t.cell(5, COL_UNITS), "Tsp");
+  EXPECT_EQ(t.cell(6, COL_QTY), "125.0");  // 4.23 US fl oz in mL
+  EXPECT_EQ(t.cell(6, COL_UNITS), "mL");
+  EXPECT_EQ(t.cell(8, COL_QTY), "1.06");
+  EXPECT_EQ(t.cell(8, COL_UNITS), "Packet");
+  EXPECT_EQ(t.e.sheet.txtFermentVolume, "20.0");
+  EXPECT_EQ(t.e.sheet.txtInitalBoilVolume, "14.0");
+  EXPECT_EQ(t.e.lblVolumeUnits, "Liters");
+  EXPECT_EQ(t.e.lblUnitType, "Metric Measures");
+  EXPECT_EQ(t.wb.recipe.rec.volumeUnits, LITER_CONST);
+  EXPECT_EQ(t.wb.recipe.rec.unitType, METRIC_MEASURES);
+  EXPECT_EQ(t.e.fermentation.lblTempUnits, "\xB0" "C");
+  EXPECT_EQ(t.e.sheet.lblOG, "1.072");
+
+  // And on to British: kilograms and grams back to pounds and ounces, mL to imperial ounces.
+  ScaleDialog b;
+  b.open(t.e);
+  b.setUnitSystem(IMPERIAL_MEASURES);
+  EXPECT_EQ(b.cboVolume, IMPERIAL_GAL_CONST);
+  EXPECT_EQ(b.txtVolume, "4.4");
+  ASSERT_TRUE(b.apply(t.e));
+  EXPECT_EQ(t.cell(1, COL_UNITS), "Lbs");
+  EXPECT_EQ(t.cell(1, COL_QTY), "10.6");  // 4.8 * 1.0001 kg in pounds
+  EXPECT_EQ(t.cell(3, COL_UNITS), "Oz");
+  EXPECT_EQ(t.cell(6, COL_UNITS), "Imp Fl Oz");
+  EXPECT_EQ(t.e.lblVolumeUnits, "Imp Gallons");
+  EXPECT_EQ(t.wb.recipe.rec.unitType, IMPERIAL_MEASURES);
+}
+
+TEST(ScaleDialog, NoVolumeMeansNoScaling) {
+  ScaleBench t;
+  ScaleDialog d;
+  d.open(t.e);
+  d.txtVolume = "0";
+  EXPECT_FALSE(d.apply(t.e));
+  ASSERT_FALSE(t.b.prompter.shown.empty());
+  EXPECT_EQ(t.b.prompter.shown.back().text, "Please enter a Fermentation Volume greater than zero");
+  EXPECT_EQ(t.b.prompter.shown.back().title, "Scale Recipe Quantities");
+  EXPECT_EQ(t.cell(1, COL_QTY), "10.0");
+  EXPECT_FALSE(t.e.recipeChanged());
+
+  t.e.setFermentVolume("N/A");
+  d.txtVolume = "10";
+  EXPECT_FALSE(d.apply(t.e));
+  EXPECT_EQ(t.b.prompter.shown.back().text, "The recipe has no Fermentation Volume to scale from");
+  EXPECT_EQ(t.cell(1, COL_QTY), "10.0");
+}
+
+TEST(ScaleDialog, UnitsOfEachSystem) {
+  EXPECT_EQ(scaledUnit(KIND_MALT, UNIT_LBS, METRIC_MEASURES), UNIT_KG);
+  EXPECT_EQ(scaledUnit(KIND_HOPS, UNIT_GR, US_MEASURES), UNIT_OZ);
+  EXPECT_EQ(scaledUnit(KIND_HOPS, UNIT_KG, IMPERIAL_MEASURES), UNIT_LBS);
+  EXPECT_EQ(scaledUnit(KIND_OTHER, 6, METRIC_MEASURES), 9);     // US Gal -> Liters
+  EXPECT_EQ(scaledUnit(KIND_OTHER, 9, IMPERIAL_MEASURES), 12);  // Liters -> Imp Qts
+  EXPECT_EQ(scaledUnit(KIND_OTHER, 4, METRIC_MEASURES), 4);     // Each
+  EXPECT_EQ(scaledUnit(KIND_YEAST, 2, METRIC_MEASURES), 2);     // Starter
+  EXPECT_DOUBLE_EQ(unitFactor(KIND_MALT, UNIT_LBS, UNIT_KG), 0.4535924);
+  EXPECT_NEAR(unitFactor(KIND_OTHER, 8, 10), 29.5735296875, 1e-9);
+  EXPECT_NEAR(unitFactor(KIND_OTHER, 13, 10), 28.41307425, 1e-9);
+  EXPECT_DOUBLE_EQ(unitFactor(KIND_OTHER, 6, 9), 3.7854118);
+  EXPECT_DOUBLE_EQ(unitFactor(KIND_YEAST, 0, 3), 1.0);
+  EXPECT_EQ(std::string(ScaleDialog::unitCaptions()[2]), "British (Imperial Gallons, Pounds)");
+}

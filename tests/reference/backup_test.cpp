@@ -1,0 +1,152 @@
+// Backup and restore of the eleven data files.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "core/paths.h"
+#include "reference/Backup.h"
+#include "support/TestSupport.h"
+
+namespace fs = std::filesystem;
+
+namespace zy::test {
+namespace {
+
+const char* const kOrder[] = {"ZYRecipe.dat",  "ZYRItems.dat",   "ZYComment.dat",  "ZYCategory.dat",
+                              "ZYStyle.dat",   "ZYBatchLog.dat", "ZYInvHops.dat",  "ZYInvMalt.dat",
+                              "ZYInvOther.dat", "ZYInvYeast.dat", "ZYInvSupplies.dat"};
+
+FolderPicker confirm(std::vector<std::pair<std::string, std::string>>& asked) {
+  return [&asked](const std::string& title, const std::string& initial) -> std::optional<std::string> {
+    asked.emplace_back(title, initial);
+    return initial;
+  };
+}
+
+std::string backupPathSetting(Bench& b) { return b.settings.read("Settings", "Backup Path", "<none>"); }
+
+FolderPicker choose(const std::string& folder) {
+  return [folder](const std::string&, const std::string&) -> std::optional<std::string> { return folder; };
+}
+
+TEST(Backup, ADayIsBackedUpOnceAndOverwrittenOnlyOnRequest) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  writeFile(wb.folder.dataFile("ZYRecipe.dat"), "recipes v1");
+  writeFile(wb.folder.dataFile("ZYInvSupplies.dat"), "supplies");
+  std::vector<std::pair<std::string, std::string>> asked;
+
+  EXPECT_EQ(backupAllDatabases(wb, confirm(asked)), BackupOutcome::Done);
+  const std::string dated = b.dir.path() + "/Backups/2026-11-22";
+  ASSERT_EQ(asked.size(), 1u);
+  EXPECT_EQ(asked[0].first, "Backup All Zythara Databases");
+  EXPECT_EQ(asked[0].second, dated);
+  for (const char* f : kOrder) EXPECT_TRUE(fileExists(dated + "/" + f)) << f;
+  EXPECT_EQ(readFile(dated + "/ZYRecipe.dat"), "recipes v1");
+  EXPECT_EQ(readFile(dated + "/ZYInvSupplies.dat"), "supplies");
+  EXPECT_EQ(readFile(dated + "/ZYBatchLog.dat"), "");  // not created yet: empty to the program
+  EXPECT_EQ(backupPathSetting(b), b.dir.path() + "/Backups");
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].text, "The Full Database Backup Has Completed Successfully");
+
+  // The second backup of the day asks; No copies nothing.
+  writeFile(wb.folder.dataFile("ZYRecipe.dat"), "recipes v2");
+  b.prompter.answers = {Answer::No};
+  EXPECT_EQ(backupAllDatabases(wb, confirm(asked)), BackupOutcome::Cancelled);
+  ASSERT_EQ(b.prompter.shown.size(), 3u);
+  EXPECT_EQ(b.prompter.shown[1].text, "Backup files already exist in this folder.  Overwrite them?");
+  EXPECT_EQ(b.prompter.shown[1].title, "Backup Zythara Databases");
+  EXPECT_EQ(b.prompter.shown[1].buttons, Buttons::YesNo);
+  EXPECT_EQ(b.prompter.shown[2].text, "Zythara Database Backup Canceled");
+  EXPECT_EQ(readFile(dated + "/ZYRecipe.dat"), "recipes v1");
+
+  b.prompter.answers = {Answer::Yes};
+  EXPECT_EQ(backupAllDatabases(wb, confirm(asked)), BackupOutcome::Done);
+  EXPECT_EQ(readFile(dated + "/ZYRecipe.dat"), "recipes v2");
+  EXPECT_EQ(b.prompter.shown.back().text, "The Full Database Backup Has Completed Successfully");
+}
+
+TEST(Backup, FoldersThatAreRefusedOrCancelled) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  writeFile(wb.folder.dataFile("ZYRecipe.dat"), "r");
+  // The data folder itself, written another way.
+  EXPECT_EQ(backupAllDatabases(wb, choose(b.dir.path() + "/Data/")), BackupOutcome::Refused);
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].text, "You Cannot Save Backups to the Source Folder");
+  EXPECT_EQ(b.prompter.shown[0].title, "Invalid Folder Selected");
+  EXPECT_EQ(backupPathSetting(b), "<none>");
+
+  // A cancelled dialog: nothing more.
+  FolderPicker cancel = [](const std::string&, const std::string&) -> std::optional<std::string> { return {}; };
+  EXPECT_EQ(backupAllDatabases(wb, cancel), BackupOutcome::Cancelled);
+  EXPECT_EQ(b.prompter.shown.size(), 1u);
+  // Without a picker the prompter's folder dialog is asked (and the script cancels it).
+  EXPECT_EQ(backupAllDatabases(wb), BackupOutcome::Cancelled);
+  EXPECT_EQ(b.prompter.shown.back().title, "Backup All Zythara Databases");
+
+  // A folder of its own is kept whole; one below a Backups folder is kept up to "/Backups".
+  EXPECT_EQ(backupAllDatabases(wb, choose(b.dir.path() + "/mine")), BackupOutcome::Done);
+  EXPECT_EQ(backupPathSetting(b), b.dir.path() + "/mine");
+  EXPECT_EQ(backupPathToStore("/home/x/Backups/2026-11-22"), "/home/x/Backups");
+  EXPECT_EQ(backupPathToStore("/home/x/backups/2026-11-22"), "/home/x/backups/2026-11-22");
+  // The next backup starts from the remembered folder.
+  std::vector<std::pair<std::string, std::string>> asked;
+  backupAllDatabases(wb, confirm(asked));
+  EXPECT_EQ(asked[0].second, b.dir.path() + "/mine/2026-11-22");
+}
+
+TEST(Backup, FilesAreCopiedInTheirOrderUntilOneFails) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  for (const char* f : kOrder) writeFile(wb.folder.dataFile(f), f);
+  const std::string target = b.dir.path() + "/blocked";
+  fs::create_directories(target + "/ZYStyle.dat");  // the fifth file cannot be written
+  EXPECT_THROW(backupAllDatabases(wb, choose(target)), Terminated);
+  for (int i = 0; i < 11; ++i) {
+    std::string p = target + "/" + kOrder[i];
+    if (i < 4) {
+      EXPECT_EQ(readFile(p), kOrder[i]);
+    } else if (i > 4) {
+      EXPECT_FALSE(fs::exists(p)) << p;
+    }
+  }
+}
+
+TEST(Restore, FromABackupFolderWithItsRestartMessage) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  writeFile(wb.folder.dataFile("ZYRecipe.dat"), "current");
+  writeFile(wb.folder.dataFile("ZYInvHops.dat"), "current hops");
+
+  // A folder without ZYRecipe.dat is refused and nothing changes.
+  const std::string empty = b.dir.path() + "/Backups/empty";
+  fs::create_directories(empty);
+  writeFile(empty + "/ZYInvHops.dat", "old hops");
+  std::vector<std::pair<std::string, std::string>> asked;
+  FolderPicker pickEmpty = [&](const std::string& title, const std::string& initial) -> std::optional<std::string> {
+    asked.emplace_back(title, initial);
+    return empty;
+  };
+  EXPECT_EQ(restoreAllDatabases(wb, pickEmpty), BackupOutcome::Refused);
+  EXPECT_EQ(asked[0].first, "Restore All Zythara Databases");
+  EXPECT_EQ(asked[0].second, b.dir.path() + "/Backups");
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].text, "No Backup Files in this Folder, Be Sure to Double-Click the Desired Folder");
+  EXPECT_EQ(readFile(wb.folder.dataFile("ZYInvHops.dat")), "current hops");
+  EXPECT_EQ(backupPathSetting(b), b.dir.path() + "/Backups");
+
+  // A real backup comes back into Data.
+  const std::string saved = b.dir.path() + "/Backups/2026-11-01";
+  fs::create_directories(saved);
+  writeFile(saved + "/ZYRecipe.dat", "saved recipes");
+  writeFile(saved + "/ZYInvHops.dat", "saved hops");
+  EXPECT_EQ(restoreAllDatabases(wb, choose(saved)), BackupOutcome::Done);
+  EXPECT_EQ(readFile(wb.folder.dataFile("ZYRecipe.dat")), "saved recipes");
+  EXPECT_EQ(readFile(wb.folder.dataFile("ZYInvHops.dat")), "saved hops");
+  EXPECT_EQ(b.prompter.shown.back().text,
+            "The Full Database Restore Has Completed Successfully\r\n    Restart Zythara to Load Restored Databases");
+}
+
+}  // namespace
+}  // namespace zy::test

@@ -1,0 +1,234 @@
+// The encyclopedia window's model: history, Also See, search, Go Back and mini-books.
+#include <gtest/gtest.h>
+
+#include "RefFixture.h"
+#include "core/text.h"
+#include "reference/ReferenceBrowser.h"
+#include "support/TestSupport.h"
+
+namespace zy::test {
+namespace {
+
+struct Loaded {
+  explicit Loaded(std::vector<TopicSource> topics = sampleTopics(), std::vector<BookSource> books = sampleBooks()) {
+    BuildReport r = buildReference(std::move(topics), std::move(books), bench.wb->folder.referenceFolder());
+    EXPECT_TRUE(r.ok());
+    br.openTopicStore();
+    br.loadEncyclopediaTopics();
+    br.loadMiniBooks();
+  }
+  std::vector<std::string> texts(int tree) const {
+    std::vector<std::string> out;
+    for (const TopicNode& n : br.trees[static_cast<size_t>(tree)]) out.push_back(n.text);
+    return out;
+  }
+  Bench bench;
+  ReferenceBrowser br{*bench.wb};
+};
+
+using Texts = std::vector<std::string>;
+
+TEST(ReferenceBrowser, HistoryKeepsOneNodeForARepeatAndAtMostAHundred) {
+  std::vector<TopicSource> many;
+  for (int i = 0; i < 102; ++i) {
+    std::string n = "Topic " + fixedDigits(i, 3);
+    many.push_back(topic(n, n, "<P>" + n + "</P>"));
+  }
+  Loaded l(many, {});
+  ReferenceBrowser& br = l.br;
+  br.showFirstTopic();
+  br.selectNode({TreeAllTopics, 0, -1});  // the same topic again
+  ASSERT_EQ(br.trees[TreeHistory].size(), 1u);
+  EXPECT_FALSE(br.cmdGoBackEnabled);
+
+  for (int i = 1; i <= 100; ++i) br.selectNode({TreeAllTopics, i, -1});
+  // 101 distinct topics leave 100 nodes: the one at position 100, the oldest but one, went.
+  const std::vector<TopicNode>& h = br.trees[TreeHistory];
+  ASSERT_EQ(h.size(), 100u);
+  EXPECT_EQ(h.front().text, "Topic 100");
+  EXPECT_EQ(h[98].text, "Topic 002");
+  EXPECT_EQ(h.back().text, "Topic 000");
+  EXPECT_EQ(br.currentHistory, 0);
+  EXPECT_TRUE(br.cmdGoBackEnabled);
+
+  // Go Back walks to older entries without adding any.
+  br.cmdGoBack();
+  EXPECT_EQ(br.lblTitle, "Topic 099");
+  EXPECT_EQ(br.currentHistory, 1);
+  EXPECT_EQ(h.size(), 100u);
+
+  // A node chosen in History becomes the current entry; the last one disables Go Back.
+  br.selectNode({TreeHistory, 99, -1});
+  EXPECT_EQ(br.lblTitle, "Topic 000");
+  EXPECT_EQ(br.currentHistory, 99);
+  EXPECT_FALSE(br.cmdGoBackEnabled);
+  br.cmdGoBack();
+  EXPECT_EQ(br.lblTitle, "Topic 000");
+
+  // A topic equal to the newest entry is not added again, even reached from another tree.
+  br.selectNode({TreeAllTopics, 100, -1});
+  EXPECT_EQ(h.size(), 100u);
+  EXPECT_EQ(br.currentHistory, 0);
+  br.selectNode({TreeAllTopics, 101, -1});
+  EXPECT_EQ(h.front().text, "Topic 101");
+  EXPECT_EQ(h.back().text, "Topic 000");
+  EXPECT_EQ(h.size(), 100u);
+}
+
+TEST(ReferenceBrowser, AlsoSeeListsMatchingTopicsAndStaysWhileWalkingIt) {
+  Loaded l;
+  ReferenceBrowser& br = l.br;
+  br.showFirstTopic();  // Boiling: Hops, "cooling", and a title that matches nothing
+  EXPECT_EQ(l.texts(TreeAlsoSee), (Texts{"Hops", "Cooling"}));
+  EXPECT_EQ(br.tabCaptions[TreeAlsoSee], "* A&lso See");
+  EXPECT_EQ(br.lblAlsoSeeTopic, "Boiling the Wort");
+  EXPECT_EQ(br.lblAlsoSeeTopicTag, br.trees[TreeAllTopics][0].tagValue());
+  EXPECT_FALSE(br.cmdAlsoSeeEnabled);
+  EXPECT_EQ(br.trees[TreeAlsoSee][0].icon, TopicIcon::Photo);
+  EXPECT_EQ(br.trees[TreeAlsoSee][0].tag, br.trees[TreeAllTopics][2].tag);
+
+  // Walking through the list leaves it in place; Hops has an entry of its own pending.
+  br.selectNode({TreeAlsoSee, 0, -1});
+  EXPECT_EQ(br.lblTitle, "Hops");
+  EXPECT_EQ(l.texts(TreeAlsoSee), (Texts{"Hops", "Cooling"}));
+  EXPECT_TRUE(br.cmdAlsoSeeEnabled);
+  EXPECT_EQ(l.texts(TreeHistory), (Texts{"Hops", "Boiling the Wort"}));
+
+  // A search in between puts the store back where it was, so the refresh still reads Hops' list.
+  br.searchForPhrase("sugar");
+  br.cmdAlsoSee();
+  EXPECT_EQ(l.texts(TreeAlsoSee), (Texts{"Boiling"}));
+  EXPECT_EQ(br.lblAlsoSeeTopic, "Hops");
+  EXPECT_FALSE(br.cmdAlsoSeeEnabled);
+
+  // Back to the original topic by its label: the list is rebuilt, the history untouched.
+  br.selectNode({TreeAllTopics, 0, -1});
+  br.selectNode({TreeAlsoSee, 1, -1});  // Cooling, whose list matches nothing
+  EXPECT_EQ(br.lblTitle, "Cooling");
+  br.clickAlsoSeeTopic();
+  EXPECT_EQ(br.lblTitle, "Boiling the Wort");
+  EXPECT_EQ(l.texts(TreeAlsoSee), (Texts{"Hops", "Cooling"}));
+  EXPECT_EQ(l.texts(TreeHistory), (Texts{"Cooling", "Boiling the Wort", "Hops", "Boiling the Wort"}));
+
+  // Only titles that match nothing: an empty list under a marked tab.
+  br.selectNode({TreeAllTopics, 1, -1});
+  EXPECT_TRUE(br.trees[TreeAlsoSee].empty());
+  EXPECT_EQ(br.tabCaptions[TreeAlsoSee], "* A&lso See");
+  EXPECT_EQ(br.lblAlsoSeeTopic, "Cooling");
+
+  // No entries at all: the tab unmarked, the list and its label emptied.
+  br.selectNode({TreeAllTopics, 3, -1});
+  EXPECT_TRUE(br.trees[TreeAlsoSee].empty());
+  EXPECT_EQ(br.tabCaptions[TreeAlsoSee], "  A&lso See");
+  EXPECT_EQ(br.lblAlsoSeeTopic, "");
+  EXPECT_EQ(br.lblAlsoSeeTopicTag, 0);
+  EXPECT_FALSE(br.cmdAlsoSeeEnabled);
+}
+
+TEST(ReferenceBrowser, SearchReadsTitlesThenTheTextBehindTheBodyLength) {
+  Loaded l;
+  ReferenceBrowser& br = l.br;
+  int repaints = 0;
+  br.searchStarted = [&] {
+    ++repaints;
+    EXPECT_EQ(br.lblSearch, "Searching...");
+  };
+  // On the title; any case; the tree holds the topics' own titles.
+  br.searchForPhrase("BOIL");
+  EXPECT_EQ(br.lblSearch, "1 Found");
+  EXPECT_EQ(l.texts(TreeSearch), Texts{"Boiling the Wort"});
+  EXPECT_EQ(repaints, 1);
+  // On the body: "IBU" matches "ibu".
+  br.searchForPhrase("IBU");
+  EXPECT_EQ(l.texts(TreeSearch), Texts{"Hops"});
+  EXPECT_EQ(br.trees[TreeSearch][0].icon, TopicIcon::Photo);
+  // The image-count digits lead the text searched: "02" finds the topic with two pictures,
+  // "00<p>" the two without.
+  br.searchForPhrase("02");
+  EXPECT_EQ(l.texts(TreeSearch), Texts{"Hops"});
+  br.searchForPhrase("00<p>");
+  EXPECT_EQ(br.lblSearch, "2 Found");
+  EXPECT_EQ(l.texts(TreeSearch), (Texts{"Boiling the Wort", "Cooling"}));
+  // ... and the last two characters of a body are never reached.
+  br.searchForPhrase("</p>");
+  EXPECT_EQ(l.texts(TreeSearch), Texts{"Yeast"});
+  br.searchForPhrase("hop bines");  // captions lie behind the body
+  EXPECT_EQ(br.lblSearch, "None Found");
+  EXPECT_TRUE(br.trees[TreeSearch].empty());
+
+  // The box: trimmed, and an empty one is refused.
+  br.txtSearch = "   ";
+  br.cmdSearch();
+  ASSERT_EQ(l.bench.prompter.shown.size(), 1u);
+  EXPECT_EQ(l.bench.prompter.shown[0].text, "Nothing Entered for Searching");
+  EXPECT_EQ(l.bench.prompter.shown[0].title, "Topic Search");
+  br.txtSearch = "  yeast ";
+  br.cmdSearch();
+  EXPECT_EQ(br.lblSearch, "1 Found");
+  br.cmdClear();
+  EXPECT_EQ(br.txtSearch, "");
+  EXPECT_EQ(br.lblSearch, "");
+  EXPECT_TRUE(br.trees[TreeSearch].empty());
+}
+
+TEST(ReferenceBrowser, ASearchHitOnTheTitleDoesNotReadTheBody) {
+  Loaded l;
+  // Spoil the body length of Cooling: a title hit never reads it, a body search does.
+  std::string store = readFile(l.bench.wb->folder.referenceFile("Zyth.enc"));
+  long pos = l.br.trees[TreeAllTopics][1].tagValue() - 1;
+  store.replace(static_cast<size_t>(pos) + 2 + 7, 5, "xxxxx");
+  l.br.closeTopicStore();
+  writeFile(l.bench.wb->folder.referenceFile("Zyth.enc"), store);
+  l.br.openTopicStore();
+  l.br.searchForPhrase("cool");
+  EXPECT_EQ(l.br.lblSearch, "1 Found");
+  EXPECT_THROW(l.br.searchForPhrase("chill"), Terminated);
+  EXPECT_EQ(l.bench.prompter.shown.back().text, "Error #13(Type mismatch) in frmMain!searchForPhrase at Line 0");
+}
+
+TEST(ReferenceBrowser, MiniBooksShowTheirPageAndOpenTheirChapters) {
+  Loaded l;
+  ReferenceBrowser& br = l.br;
+  ASSERT_EQ(br.trees[TreeMiniBooks].size(), 1u);
+  const TopicNode& root = br.trees[TreeMiniBooks][0];
+  EXPECT_EQ(root.text, "First Brew");
+  EXPECT_EQ(root.tag, "0 <P>Start here.</P>");
+  EXPECT_EQ(root.icon, TopicIcon::ClosedBook);
+  ASSERT_EQ(root.children.size(), 2u);
+  EXPECT_EQ(root.children[0].icon, TopicIcon::Leaf);
+  EXPECT_EQ(root.children[1].icon, TopicIcon::Photo);
+  EXPECT_EQ(root.children[1].tag, br.trees[TreeAllTopics][2].tag);
+  br.setExpanded(0, true);
+  EXPECT_EQ(std::string(iconKey(root.icon)), "OpenBook");
+
+  int navigations = 0;
+  br.pageChanged = [&] { ++navigations; };
+  br.selectNode({TreeMiniBooks, 0, -1});
+  EXPECT_EQ(br.lblTitle, "First Brew");
+  EXPECT_EQ(br.page, "<H1>First Brew</H1>\r\n <P>Start here.</P><br><br>\r\n"
+                     "&nbsp;&nbsp;&nbsp;The Boil<br>\r\n&nbsp;&nbsp;&nbsp;Hops<br>\r\n"
+                     "<br>Double-click on one of the Closed Books on the left to open it and expose the chapters "
+                     "in that book.<br>\r\n<br><br><br><br>\r\n<H6>" + legalLine() + "</H6>\r\n");
+  EXPECT_TRUE(br.trees[TreeHistory].empty());
+  br.selectNode({TreeMiniBooks, 0, 1});
+  EXPECT_EQ(br.lblTitle, "Hops");
+  EXPECT_EQ(l.texts(TreeHistory), Texts{"Hops"});
+  EXPECT_EQ(navigations, 2);
+}
+
+TEST(ReferenceBrowser, TabsShowTheirPanels) {
+  Loaded l;
+  l.br.selectTab(TreeSearch);
+  EXPECT_TRUE(l.br.searchPanelVisible());
+  EXPECT_FALSE(l.br.alsoSeePanelVisible());
+  l.br.selectTab(TreeAlsoSee);
+  EXPECT_TRUE(l.br.alsoSeePanelVisible());
+  l.br.selectTab(7);
+  EXPECT_EQ(l.br.currentTab, TreeAlsoSee);
+  l.br.showFirstTopic();
+  EXPECT_EQ(l.br.currentTab, TreeAllTopics);
+  EXPECT_EQ(std::string(kTopicTabKeys[3]), "Also See");
+}
+
+}  // namespace
+}  // namespace zy::test

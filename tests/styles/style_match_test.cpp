@@ -1,0 +1,272 @@
+// Judging a recipe against styles: the limits, the match list and its sorts, the editor's style
+// list, the filter dialog, the statistics and the category labels.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <memory>
+
+#include "styles/StyleMatch.h"
+#include "support/TestSupport.h"
+
+namespace zy {
+namespace {
+
+BeerStyleRecord style(const std::string& name, int source, double ogLow, double ogHigh, double fgLow, double fgHigh,
+                      double ibuLow, double ibuHigh, double srmLow, double srmHigh, double abvLow, double abvHigh) {
+  BeerStyleRecord s;
+  s.styleName = name;
+  s.source = source;
+  s.ogLow = ogLow, s.ogHigh = ogHigh, s.fgLow = fgLow, s.fgHigh = fgHigh;
+  s.ibuLow = ibuLow, s.ibuHigh = ibuHigh, s.srmLow = srmLow, s.srmHigh = srmHigh;
+  s.alcoholLow = abvLow, s.alcoholHigh = abvHigh;
+  return s;
+}
+
+std::unique_ptr<StyleTables> tablesOf(std::initializer_list<BeerStyleRecord> styles) {
+  auto t = std::make_unique<StyleTables>();
+  for (const BeerStyleRecord& s : styles) {
+    t->BeerStyles[static_cast<size_t>(t->BeerStyleCount)] = s;
+    t->BeerStyles[static_cast<size_t>(t->BeerStyleCount)].styleIndex = t->BeerStyleCount;
+    ++t->BeerStyleCount;
+  }
+  return t;
+}
+
+std::string describe(const StyleDeviation& d) { return std::string(d.text()) + "/" + d.colorWord(); }
+
+TEST(StyleDeviation, GravityLimitsAreMeasuredFromPointNine) {
+  const auto G = LimitKind::Gravity;
+  // 1.045 to 1.055: lower limit (0.145 * 0.9) + 0.9 = 1.0305, upper (0.155 * 1.1) + 0.9 = 1.0705.
+  EXPECT_NEAR(styleLowerLimit(1.045, G), 1.0305, 1e-12);
+  EXPECT_NEAR(styleUpperLimit(1.055, G), 1.0705, 1e-12);
+  EXPECT_EQ(describe(styleDeviation(1.045, 1.045, 1.055, G)), "OK/green");
+  EXPECT_EQ(describe(styleDeviation(1.055, 1.045, 1.055, G)), "OK/green");
+  EXPECT_EQ(describe(styleDeviation(1.050, 1.045, 1.055, G)), "OK/green");
+  EXPECT_EQ(describe(styleDeviation(1.040, 1.045, 1.055, G)), "Low/yellow");
+  // 1.036 is a near miss with the 0.9 form; ten percent of the points would make it a full miss.
+  EXPECT_EQ(describe(styleDeviation(1.036, 1.045, 1.055, G)), "Low/yellow");
+  const double lo = styleLowerLimit(1.045, G), hi = styleUpperLimit(1.055, G);
+  EXPECT_EQ(describe(styleDeviation(lo, 1.045, 1.055, G)), "Low/yellow");
+  EXPECT_EQ(describe(styleDeviation(std::nextafter(lo, 0.0), 1.045, 1.055, G)), "Low/red");
+  EXPECT_EQ(describe(styleDeviation(1.030, 1.045, 1.055, G)), "Low/red");
+  EXPECT_EQ(describe(styleDeviation(std::nextafter(1.055, 2.0), 1.045, 1.055, G)), "High/yellow");
+  EXPECT_EQ(describe(styleDeviation(1.070, 1.045, 1.055, G)), "High/yellow");
+  EXPECT_EQ(describe(styleDeviation(hi, 1.045, 1.055, G)), "High/yellow");
+  EXPECT_EQ(describe(styleDeviation(std::nextafter(hi, 2.0), 1.045, 1.055, G)), "High/red");
+  EXPECT_EQ(describe(styleDeviation(1.071, 1.045, 1.055, G)), "High/red");
+}
+
+TEST(StyleDeviation, PlainLimitsAreTenPercent) {
+  const auto P = LimitKind::Plain;
+  EXPECT_EQ(describe(styleDeviation(20, 20, 30, P)), "OK/green");
+  EXPECT_EQ(describe(styleDeviation(30, 20, 30, P)), "OK/green");
+  EXPECT_EQ(describe(styleDeviation(19.99, 20, 30, P)), "Low/yellow");
+  EXPECT_EQ(describe(styleDeviation(18, 20, 30, P)), "Low/yellow");
+  EXPECT_EQ(describe(styleDeviation(17.99, 20, 30, P)), "Low/red");
+  EXPECT_EQ(describe(styleDeviation(30.01, 20, 30, P)), "High/yellow");
+  EXPECT_EQ(describe(styleDeviation(styleUpperLimit(30, P), 20, 30, P)), "High/yellow");
+  EXPECT_EQ(describe(styleDeviation(33.01, 20, 30, P)), "High/red");
+  // An upper value of 0 accepts only 0.
+  EXPECT_EQ(describe(styleDeviation(0, 0, 0, P)), "OK/green");
+  EXPECT_EQ(describe(styleDeviation(0.0001, 0, 0, P)), "High/red");
+  EXPECT_EQ((styleDeviation(50, 20, 30, P).color()), (std::array<int, 3>{255, 0, 0}));
+  EXPECT_EQ((styleDeviation(31, 20, 30, P).color()), (std::array<int, 3>{255, 255, 0}));
+  EXPECT_EQ((styleDeviation(25, 20, 30, P).color()), (std::array<int, 3>{0, 255, 0}));
+}
+
+// Pale: all ranges; Stout: dark; Open: an empty name and every range wide.
+std::unique_ptr<StyleTables> threeStyles() {
+  return tablesOf({style("Pale Ale ", 1, 1.045, 1.055, 1.010, 1.014, 20, 30, 4, 9, 4.5, 5.5),
+                   style("Stout", 2, 1.045, 1.055, 1.010, 1.014, 30, 40, 30, 40, 4.5, 5.5),
+                   style("", 0, 1.000, 1.100, 1.000, 1.030, 0, 100, 0, 50, 0, 12)});
+}
+
+TEST(StyleMatch, NearMissesStayAndFullMissesGo) {
+  auto t = threeStyles();
+  // Values as the editor shows them; IBU 19 is a near miss for Pale Ale, a full miss for Stout.
+  const auto v = RecipeStyleValues::fromDisplay("1.050", "1.012", "19", "5.0", "5.1");
+  StyleMatchModel m;
+  m.open(*t, v, "Pale Ale");
+  ASSERT_EQ(m.rows.size(), 2u);
+  EXPECT_EQ(m.rows[0].name, "Pale Ale");
+  EXPECT_EQ(m.rows[0].cells, (std::array<std::string, 5>{"OK", "OK", "Low", "OK", "OK"}));
+  EXPECT_EQ(m.rows[1].name, "");  // every style is tried, also one without a name
+  EXPECT_EQ(m.selected, 0);
+  EXPECT_TRUE(m.cmdSetRecipeEnabled);
+  EXPECT_EQ(m.setRecipeStyleText(), "Pale Ale");
+  EXPECT_EQ(m.lines()[0], "Beer Style\tO.G.\tF.G.\tBitter\tColor\tAlc %");
+  EXPECT_EQ(m.lines()[1], "Pale Ale\tOK\tOK\tLow\tOK\tOK");
+
+  // The editor's filter plays no part.
+  t->StyleSourceShown = {false, false, false};
+  t->StyleFilterText = "zzz";
+  EXPECT_EQ(buildStyleMatchRows(*t, v).size(), 2u);
+
+  test::ScriptedPrompter p;
+  EXPECT_EQ(m.doubleClick(0, p), "Pale Ale");
+  EXPECT_TRUE(p.shown.empty());
+}
+
+TEST(StyleMatch, NoMatchGivesOneRowAndADisabledButton) {
+  auto empty = tablesOf({});
+  StyleMatchModel m;
+  m.open(*empty, RecipeStyleValues{1.05, 1.01, 20, 5, 5}, "");
+  ASSERT_EQ(m.rows.size(), 1u);
+  EXPECT_EQ(m.rows[0].name, "No Matching Styles Found");
+  EXPECT_FALSE(m.cmdSetRecipeEnabled);
+  EXPECT_EQ(m.setRecipeStyleText(), std::nullopt);
+  test::ScriptedPrompter p;
+  EXPECT_EQ(m.doubleClick(0, p), std::nullopt);
+  ASSERT_EQ(p.shown.size(), 1u);
+  EXPECT_EQ(p.shown[0].text, "No Matching Beer Styles Found");
+  EXPECT_EQ(p.shown[0].title, "Matching Beer Styles");
+
+  // A recipe without malts shows "N/A": no style passes the gravity check with 0.
+  auto t = threeStyles();
+  m.open(*t, RecipeStyleValues::fromDisplay("N/A", "N/A", "N/A", "N/A", "N/A"), "");
+  ASSERT_EQ(m.rows.size(), 1u);
+  EXPECT_EQ(m.rows[0].name, "No Matching Styles Found");
+  EXPECT_EQ(m.lines()[1], "No Matching Styles Found\t\t\t\t\t");
+}
+
+TEST(StyleMatch, SortsByNameOrByEveryColumnDescending) {
+  // Five styles that all match with different cells; values OG 1.050 FG 1.012 IBU 25 SRM 10 ABV 5.
+  auto t = tablesOf({
+      style("delta", 0, 1.051, 1.060, 1.010, 1.014, 20, 30, 5, 15, 4, 6),     // Low OK OK OK OK
+      style("Alpha", 0, 1.040, 1.049, 1.010, 1.014, 20, 30, 5, 15, 4, 6),     // High OK OK OK OK
+      style("charlie", 0, 1.040, 1.060, 1.013, 1.020, 20, 30, 5, 15, 4, 6),   // OK Low OK OK OK
+      style("Bravo", 0, 1.040, 1.060, 1.010, 1.014, 20, 30, 5, 15, 5.2, 6),   // OK OK OK OK Low
+      style("echo", 0, 1.040, 1.060, 1.010, 1.014, 26, 30, 5, 15, 4, 6),      // OK OK Low OK OK
+  });
+  StyleMatchModel m;
+  m.open(*t, RecipeStyleValues{1.050, 1.012, 25, 10, 5}, "charlie");
+  ASSERT_EQ(m.rows.size(), 5u);
+  EXPECT_EQ(m.rows[m.selected].name, "charlie");
+
+  auto names = [&] {
+    std::string s;
+    for (const auto& r : m.rows) s += r.name + " ";
+    return s;
+  };
+  m.sortByColumn(0);
+  EXPECT_EQ(names(), "Alpha Bravo charlie delta echo ");
+  EXPECT_EQ(m.rows[m.selected].name, "charlie");
+
+  // Whatever column is clicked, O.G. decides (OK, Low, High), the later columns order its ties.
+  m.sortByColumn(4);
+  EXPECT_EQ(names(), "Bravo echo charlie delta Alpha ");
+  EXPECT_EQ(m.rows[m.selected].name, "charlie");
+  m.sortByColumn(0);
+  m.sortByColumn(1);
+  EXPECT_EQ(names(), "Bravo echo charlie delta Alpha ");
+}
+
+TEST(RecipeStyleList, BracketedEntriesOnTopThenSortedFilteredStyles) {
+  auto t = tablesOf({style(" Stout ", 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0), style("pale ALE", 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0),
+                     style("Amber Ale", 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0), style("Bock", 7, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0)});
+  auto texts = [](const std::vector<StyleListEntry>& l) {
+    std::string s;
+    for (const auto& e : l) s += e.text + "=" + std::to_string(e.data) + ";";
+    return s;
+  };
+  EXPECT_EQ(texts(buildRecipeStyleList(*t)),
+            "<Not A Recognized Beer Style>=-1;<Not Specified>=-1;Amber Ale=2;pale ALE=1;Stout=0;");
+  t->StyleFilterText = "aLe";
+  EXPECT_EQ(texts(buildRecipeStyleList(*t)), "<Not A Recognized Beer Style>=-1;<Not Specified>=-1;Amber Ale=2;pale ALE=1;");
+  t->StyleFilterText.clear();
+  t->StyleSourceShown = {true, false, true};
+  EXPECT_EQ(texts(buildRecipeStyleList(*t)), "<Not A Recognized Beer Style>=-1;<Not Specified>=-1;Amber Ale=2;Stout=0;");
+  t->StyleSourceShown = {false, false, false};
+  EXPECT_EQ(buildRecipeStyleList(*t).size(), 2u);
+  initStyleFilter(*t);
+  EXPECT_EQ(buildRecipeStyleList(*t).size(), 5u);
+
+  // Choosing and opening.
+  const auto list = buildRecipeStyleList(*t);
+  EXPECT_EQ(chooseRecipeStyle(*t, list, 4), "Stout");
+  EXPECT_EQ(t->CurrentStyleIndex, 0);
+  EXPECT_EQ(chooseRecipeStyle(*t, list, 1), "");
+  EXPECT_EQ(t->CurrentStyleIndex, -1);
+  test::ScriptedPrompter p;
+  EXPECT_EQ(selectRecipeStyle(*t, list, "Amber Ale", p), 2);
+  EXPECT_EQ(t->CurrentStyleIndex, 2);
+  EXPECT_EQ(selectRecipeStyle(*t, list, "", p), 1);
+  EXPECT_EQ(t->CurrentStyleIndex, -1);
+  EXPECT_TRUE(p.shown.empty());
+  EXPECT_EQ(selectRecipeStyle(*t, list, "Kellerbier", p), 0);
+  EXPECT_EQ(t->CurrentStyleIndex, -1);
+  ASSERT_EQ(p.shown.size(), 1u);
+  EXPECT_EQ(p.shown[0].text, "Beer Style 'Kellerbier' is Not Recognized by Zythara");
+  EXPECT_EQ(p.shown[0].title, "Unknown Beer Style");
+}
+
+TEST(StyleFilterDialog, OkStoresCancelAndResetDoNot) {
+  StyleTables t;
+  t.StyleSourceShown = {true, false, true};
+  t.StyleFilterText = "ale";
+  StyleFilterDialog d;
+  d.open(t);
+  EXPECT_EQ(d.chkStyle, (std::array<bool, 3>{true, false, true}));
+  EXPECT_EQ(d.txtFilter, "ale");
+  d.reset();
+  EXPECT_EQ(t.StyleFilterText, "ale");  // nothing stored before OK
+  d.cancel();
+  EXPECT_EQ(t.StyleSourceShown, (std::array<bool, 3>{true, false, true}));
+  d.chkStyle = {false, true, false};
+  d.txtFilter = "  lager  ";
+  d.ok(t);
+  EXPECT_EQ(t.StyleSourceShown, (std::array<bool, 3>{false, true, false}));
+  EXPECT_EQ(t.StyleFilterText, "lager");
+}
+
+TEST(StyleStatistics, CountsBySourceWithIllegalSourcesInTheTotalOnly) {
+  auto t = tablesOf({style("a", 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0), style("b", 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0),
+                     style("c", 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0), style("d", 9, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0),
+                     style("e", 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0)});
+  t->BeerCategoryCount = 3;
+  const auto lines = computeStyleStatistics(*t).lines();
+  ASSERT_EQ(lines.size(), 5u);
+  EXPECT_EQ(lines[0], "Number of Beer Categories Loaded: 3");
+  EXPECT_EQ(lines[1], "Total Number of Beer Styles Loaded: 5");
+  EXPECT_EQ(lines[2], "Custom Beer Styles Loaded: 1");
+  EXPECT_EQ(lines[3], "AOB Beer Styles Loaded: 1");
+  EXPECT_EQ(lines[4], "BJCP Beer Styles Loaded: 2");
+}
+
+TEST(StyleLookups, CategoryLabelsAndKeySearches) {
+  StyleTables t;
+  auto cat = [&](int row, const char* id, const char* name, const char* sub, int key) {
+    t.BeerCategories[row].id = id;
+    t.BeerCategories[row].category = name;
+    t.BeerCategories[row].subCategory = sub;
+    t.BeerCategories[row].categoryIndex = key;
+  };
+  cat(0, " 1A ", " Light Lager ", " Lite ", 5);
+  cat(1, "", "Stout", "", 7);
+  cat(2, "", "Twin", "", 7);
+  t.BeerCategoryCount = 3;
+  EXPECT_EQ(categoryLabel(t, 0, false), "1A Light Lager - Lite");
+  EXPECT_EQ(categoryLabel(t, 1, false), "Stout");
+  EXPECT_EQ(categoryLabel(t, 5, true), "1A Light Lager - Lite");
+  EXPECT_EQ(categoryLabel(t, 7, true), "Stout");  // first match wins
+  EXPECT_EQ(categoryLabel(t, 8, true), "<None>");
+  EXPECT_EQ(categoryLabel(t, -1, false), "<None>");
+  EXPECT_EQ(categoryLabel(t, 500, false), "<None>");
+  EXPECT_EQ(findCategoryRow(t, 7), 1);
+  EXPECT_EQ(findCategoryRow(t, 99), -1);
+  t.BeerStyles[0].styleIndex = 4;
+  t.BeerStyles[1].styleIndex = 4;
+  t.BeerStyleCount = 2;
+  EXPECT_EQ(findStyleRow(t, 4), 0);
+  EXPECT_EQ(findStyleRow(t, 0), -1);
+
+  EXPECT_FALSE(rangeOutOfBounds(1.040, 1.050, 1.0, 1.2));
+  EXPECT_FALSE(rangeOutOfBounds(1.0, 1.2, 1.0, 1.2));
+  EXPECT_FALSE(rangeOutOfBounds(5, 5, 0, 10));
+  EXPECT_TRUE(rangeOutOfBounds(1.050, 1.040, 1.0, 1.2));
+  EXPECT_TRUE(rangeOutOfBounds(0.99, 1.05, 1.0, 1.2));
+  EXPECT_TRUE(rangeOutOfBounds(1.05, 1.21, 1.0, 1.2));
+}
+
+}  // namespace
+}  // namespace zy

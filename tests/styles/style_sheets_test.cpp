@@ -1,0 +1,95 @@
+// The shipped style sheets turned into the style files, and the sheet reader's refusals.
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "core/text.h"
+#include "styles/StyleMatch.h"
+#include "styles/StyleSheets.h"
+#include "styles/StyleStore.h"
+#include "support/TestSupport.h"
+
+namespace zy {
+namespace {
+
+const BeerStyleRecord* byName(const StyleTables& t, const std::string& name) {
+  for (int i = 0; i < t.BeerStyleCount; ++i)
+    if (trim(t.BeerStyles[static_cast<size_t>(i)].styleName) == name) return &t.BeerStyles[static_cast<size_t>(i)];
+  return nullptr;
+}
+
+TEST(ShippedStyles, SheetsBuildFilesThatLoadWithoutAWord) {
+  const std::string dir = std::string(ZY_SOURCE_DIR) + "/data/styles/";
+  auto t = std::make_unique<StyleTables>();
+  std::string error;
+  ASSERT_TRUE(buildStyleTablesFromSheets(test::readFile(dir + "categories.csv"), test::readFile(dir + "styles.csv"),
+                                         *t, error))
+      << error;
+  EXPECT_EQ(t->BeerCategoryCount, 50);
+  EXPECT_EQ(t->BeerStyleCount, 250);
+
+  test::Bench b;
+  writeStyleFiles(*t, b.wb->folder.dataFile(kCategoryFile), b.wb->folder.dataFile(kStyleFile));
+  EXPECT_EQ(test::readFile(b.wb->folder.dataFile(kCategoryFile)).size(), 50u * 146u);
+  EXPECT_EQ(test::readFile(b.wb->folder.dataFile(kStyleFile)).size(), 250u * 190u);  // empty comments
+  ASSERT_TRUE(LoadBeerStyles(*b.wb));
+  EXPECT_TRUE(b.prompter.shown.empty());
+  const StyleTables& s = b.wb->styles;
+
+  // Names in Windows-1252, the source codes, the category keys.
+  const BeerStyleRecord* koelsch = byName(s, "K\xF6lsch");
+  ASSERT_NE(koelsch, nullptr);
+  EXPECT_EQ(koelsch->source, STYLE_SOURCE_BJCP);
+  EXPECT_EQ(trim(koelsch->styleId), "5B");
+  EXPECT_EQ(categoryLabel(s, koelsch->categoryIndex, true), "5 Pale Bitter European Beer");
+  EXPECT_DOUBLE_EQ(koelsch->ogLow, 1.044);
+  EXPECT_DOUBLE_EQ(koelsch->srmLow, 3.5);
+  EXPECT_NE(byName(s, "M\xE4rzen"), nullptr);
+  const BeerStyleRecord* esb = byName(s, "Extra Special Bitter");
+  ASSERT_NE(esb, nullptr);
+  EXPECT_EQ(esb->source, STYLE_SOURCE_AOB);
+  EXPECT_EQ(categoryLabel(s, esb->categoryIndex, true), "1 British Origin Ale Styles - Ale Styles");
+  // A quoted name with commas, and a range the guideline leaves open stored as 0 to 0.
+  const BeerStyleRecord* spice = byName(s, "Spice, Herb, or Vegetable Beer");
+  ASSERT_NE(spice, nullptr);
+  EXPECT_EQ(spice->ogLow, 0.0);
+  EXPECT_EQ(spice->alcoholHigh, 0.0);
+  EXPECT_EQ(spice->comments, "");
+  const BeerStyleRecord* stout = byName(s, "Classic Irish-Style Dry Stout");
+  ASSERT_NE(stout, nullptr);
+  EXPECT_EQ(stout->srmLow, 0.0);
+  EXPECT_EQ(stout->srmHigh, 0.0);
+  EXPECT_GT(stout->ogLow, 1.0);
+
+  const StyleStatistics st = computeStyleStatistics(s);
+  EXPECT_EQ(st.aob, 98);
+  EXPECT_EQ(st.bjcp, 152);
+}
+
+TEST(ShippedStyles, SheetsThatDoNotFitAreRefusedWithTheirLine) {
+  const std::string cats = "source,category_id,category_name,subcategory\nBJCP,1,Light,\nAOB,1,Ales,Ale Styles\n";
+  const std::string head =
+      "source,category_id,style_id,style_name,og_low,og_high,fg_low,fg_high,ibu_low,ibu_high,srm_low,srm_high,"
+      "abv_low,abv_high\n";
+  auto t = std::make_unique<StyleTables>();
+  std::string error;
+  ASSERT_TRUE(buildStyleTablesFromSheets(cats, head + "AOB,1,9,\"Say \"\"Hi\"\"\",1,2,1,1,,,3,4,5,6\r\n", *t, error));
+  EXPECT_EQ(trim(t->BeerStyles[0].styleName), "Say \"Hi\"");
+  EXPECT_EQ(t->BeerStyles[0].categoryIndex, 1);  // the AOB category, not the BJCP one with the same id
+  EXPECT_EQ(t->BeerStyles[0].ibuHigh, 0.0);
+
+  EXPECT_FALSE(buildStyleTablesFromSheets(cats, head + "BJCP,1,1A,X,a,2,1,1,1,1,1,1,1,1\n", *t, error));
+  EXPECT_EQ(error, "styles line 2: bad range a to 2");
+  EXPECT_FALSE(buildStyleTablesFromSheets(cats, head + "BJCP,9,1A,X,1,2,1,1,1,1,1,1,1,1\n", *t, error));
+  EXPECT_EQ(error, "styles line 2: unknown category BJCP 9");
+  EXPECT_FALSE(buildStyleTablesFromSheets(cats, head + "BA,1,1A,X,1,2,1,1,1,1,1,1,1,1\n", *t, error));
+  EXPECT_FALSE(buildStyleTablesFromSheets(cats, head + "BJCP,1,1A," + std::string(61, 'n') + ",1,2,1,1,1,1,1,1,1,1\n",
+                                          *t, error));
+  std::string many = head;
+  for (int i = 0; i < 251; ++i) many += "BJCP,1,1A,X,1,2,1,1,1,1,1,1,1,1\n";
+  EXPECT_FALSE(buildStyleTablesFromSheets(cats, many, *t, error));
+  EXPECT_EQ(error, "styles line 252: more than 250 styles");
+}
+
+}  // namespace
+}  // namespace zy

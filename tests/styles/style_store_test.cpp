@@ -1,0 +1,294 @@
+// The style files on disk: exact bytes written, loading with its keys, limits and reports.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <initializer_list>
+#include <memory>
+
+#include "core/paths.h"
+#include "core/text.h"
+#include "styles/StyleStore.h"
+#include "support/TestSupport.h"
+
+namespace zy {
+namespace {
+
+using test::Bench;
+using test::readFile;
+using test::writeFile;
+
+// Hand-made record bytes.
+struct Bytes {
+  std::string b;
+  Bytes& raw(std::initializer_list<int> v) {
+    for (int x : v) b += static_cast<char>(x);
+    return *this;
+  }
+  Bytes& text(const std::string& s, size_t width) {
+    b += s;
+    b.append(width - s.size(), ' ');
+    return *this;
+  }
+  Bytes& zeros(size_t n) {
+    b.append(n, '\0');
+    return *this;
+  }
+};
+
+// 146 bytes: start 200, source 2, "1A", "Light Lager", "Lite", key 7, 18 zero bytes, end 299.
+std::string categoryBytes(int keyLow = 0x07, int codeLow = 0xC8) {
+  Bytes x;
+  x.raw({codeLow, 0x00, 0x02, 0x00}).text("1A", 20).text("Light Lager", 50).text("Lite", 50);
+  x.raw({keyLow, 0x00}).zeros(18).raw({0x2B, 0x01});
+  return x.b;
+}
+
+// 188 bytes and the comment block "Crisp." : the style "Pale Ale" (0xE4 is a-umlaut), category
+// key 3, OG 1.048-1.056, FG 1.010-1.014, IBU 25-40, SRM 4.5-9, alcohol 4.6-6.2, key 12.
+std::string styleBytes(const std::string& name = "P\xE4le Ale", int codeEndLow = 0x2B) {
+  Bytes x;
+  x.raw({0xC8, 0x00, 0x01, 0x00}).text("10A", 20).text(name, 60).raw({0x03, 0x00});
+  x.raw({0xF8, 0x53, 0xE3, 0xA5, 0x9B, 0xC4, 0xF0, 0x3F});  // 1.048
+  x.raw({0x4C, 0x37, 0x89, 0x41, 0x60, 0xE5, 0xF0, 0x3F});  // 1.056
+  x.raw({0x29, 0x5C, 0x8F, 0xC2, 0xF5, 0x28, 0xF0, 0x3F});  // 1.010
+  x.raw({0xD3, 0x4D, 0x62, 0x10, 0x58, 0x39, 0xF0, 0x3F});  // 1.014
+  x.raw({0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x39, 0x40});  // 25
+  x.raw({0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x44, 0x40});  // 40
+  x.raw({0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x12, 0x40});  // 4.5
+  x.raw({0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x22, 0x40});  // 9
+  x.raw({0x66, 0x66, 0x66, 0x66, 0x66, 0x66, 0x12, 0x40});  // 4.6
+  x.raw({0xCD, 0xCC, 0xCC, 0xCC, 0xCC, 0xCC, 0x18, 0x40});  // 6.2
+  x.raw({0x0C, 0x00}).zeros(18).raw({codeEndLow, 0x01});
+  return x.b;
+}
+
+std::string commentBytes(const std::string& text) {
+  Bytes x;
+  x.raw({static_cast<int>(text.size() & 0xFF), static_cast<int>(text.size() >> 8)});
+  x.b += text;
+  return x.b;
+}
+
+BeerCategoryRecord lightLager() {
+  BeerCategoryRecord c;
+  c.source = STYLE_SOURCE_BJCP;
+  c.id = "1A";
+  c.category = "   Light Lager   ";
+  c.subCategory = "Lite";
+  c.categoryIndex = 7;
+  return c;
+}
+
+BeerStyleRecord paleAle() {
+  BeerStyleRecord s;
+  s.source = STYLE_SOURCE_AOB;
+  s.styleId = "10A";
+  s.styleName = "  P\xE4le Ale ";
+  s.categoryIndex = 3;
+  s.ogLow = 1.048, s.ogHigh = 1.056, s.fgLow = 1.010, s.fgHigh = 1.014;
+  s.ibuLow = 25, s.ibuHigh = 40, s.srmLow = 4.5, s.srmHigh = 9;
+  s.alcoholLow = 4.6, s.alcoholHigh = 6.2;
+  s.styleIndex = 12;
+  s.comments = "  Crisp.  ";
+  return s;
+}
+
+std::string catPath(const Bench& b) { return b.wb->folder.dataFile(kCategoryFile); }
+std::string stylePath(const Bench& b) { return b.wb->folder.dataFile(kStyleFile); }
+
+TEST(StyleFiles, SaveWritesEveryFieldAtItsOffset) {
+  Bench b;
+  StyleTables& t = b.wb->styles;
+  t.BeerCategories[0] = lightLager();
+  t.BeerCategories[0].controlStart = 5;  // the codes are set on writing
+  t.BeerCategories[1] = lightLager();
+  t.BeerCategories[1].category = "    ";  // a blank name is not written
+  t.BeerCategoryCount = 2;
+  t.BeerStyles[0] = paleAle();
+  t.BeerStyles[0].controlEnd = 0;
+  t.BeerStyleCount = 1;
+
+  ASSERT_TRUE(saveBeerStyles(*b.wb));
+  EXPECT_EQ(readFile(catPath(b)), categoryBytes());
+  EXPECT_EQ(readFile(stylePath(b)), styleBytes() + commentBytes("Crisp."));
+  // The names were trimmed in the table as well; no temporary file stays behind.
+  EXPECT_EQ(t.BeerCategories[0].category, "Light Lager");
+  EXPECT_EQ(t.BeerStyles[0].styleName, "P\xE4le Ale");
+  EXPECT_FALSE(fileExists(catPath(b) + ".new"));
+  EXPECT_FALSE(fileExists(stylePath(b) + ".new"));
+  EXPECT_TRUE(b.prompter.shown.empty());
+}
+
+TEST(StyleFiles, ReservedBytesAndLongTextsAreWrittenAsHeld) {
+  BeerCategoryRecord c = lightLager();
+  c.reserved = std::string("abc\0\x01", 5);
+  c.category = std::string(70, 'x');
+  const std::string bytes = packCategoryRecord(c);
+  ASSERT_EQ(bytes.size(), 146u);
+  EXPECT_EQ(bytes.substr(24, 50), std::string(50, 'x'));
+  EXPECT_EQ(bytes.substr(126, 18), std::string("abc\0\x01", 5) + std::string(13, '\0'));
+  // Unpacking gives every field back as stored.
+  const BeerCategoryRecord back = unpackCategoryRecord(bytes);
+  EXPECT_EQ(back.reserved, bytes.substr(126, 18));
+  EXPECT_EQ(back.subCategory, "Lite" + std::string(46, ' '));
+
+  // A comment longer than a 16-bit count can say is cut to 32767 bytes.
+  const std::string big = packStyleComment(std::string(40000, 'c'));
+  EXPECT_EQ(big.size(), 2u + 32767u);
+  EXPECT_EQ(big.substr(0, 2), std::string("\xFF\x7F", 2));
+}
+
+TEST(StyleFiles, LoadOverwritesKeysAndReadsComments) {
+  Bench b;
+  // Two categories with keys 7 and 9 in the file; three styles: one with a comment, one with a
+  // count of 0, one with a negative count, then half a record.
+  writeFile(catPath(b), categoryBytes(7) + categoryBytes(9));
+  std::string styles = styleBytes() + commentBytes("  Crisp and\r\ndry.  ");
+  styles += styleBytes("Second") + std::string("\0\0", 2);
+  styles += styleBytes("Third") + std::string("\xFF\xFF", 2);
+  styles += styleBytes("Torn").substr(0, 100);
+  writeFile(stylePath(b), styles);
+
+  ASSERT_TRUE(LoadBeerStyles(*b.wb));
+  const StyleTables& t = b.wb->styles;
+  EXPECT_TRUE(b.prompter.shown.empty());
+  ASSERT_EQ(t.BeerCategoryCount, 2);
+  EXPECT_EQ(t.BeerCategories[0].categoryIndex, 0);
+  EXPECT_EQ(t.BeerCategories[1].categoryIndex, 1);
+  ASSERT_EQ(t.BeerStyleCount, 3);
+  const BeerStyleRecord& s = t.BeerStyles[0];
+  EXPECT_EQ(s.styleIndex, 0);  // 12 in the file
+  EXPECT_EQ(s.categoryIndex, 3);  // taken as read
+  EXPECT_EQ(s.source, STYLE_SOURCE_AOB);
+  EXPECT_EQ(s.styleName, "P\xE4le Ale" + std::string(52, ' '));
+  EXPECT_DOUBLE_EQ(s.ogLow, 1.048);
+  EXPECT_DOUBLE_EQ(s.alcoholHigh, 6.2);
+  EXPECT_EQ(s.comments, "Crisp and\r\ndry.");
+  EXPECT_EQ(t.BeerStyles[1].comments, "");
+  EXPECT_EQ(t.BeerStyles[2].comments, "");
+  EXPECT_EQ(t.BeerStyles[2].styleIndex, 2);
+  EXPECT_EQ(trim(t.BeerStyles[3].styleName), "");  // the torn piece is no row
+
+  // Category 3 does not exist after the load: the label is "<None>".
+  EXPECT_EQ(styleBrowserEntry(t, 0).categoryText, "<None>");
+  EXPECT_EQ(styleBrowserEntry(t, 0).key, "B0");
+  EXPECT_EQ(styleBrowserEntry(t, 0).sourceName, "AOB");
+}
+
+TEST(StyleFiles, MissingFilesAreCreatedEmpty) {
+  Bench b;
+  ASSERT_FALSE(fileExists(catPath(b)));
+  b.wb->styles.BeerStyleCount = 9;
+  ASSERT_TRUE(LoadBeerStyles(*b.wb));
+  EXPECT_EQ(b.wb->styles.BeerCategoryCount, 0);
+  EXPECT_EQ(b.wb->styles.BeerStyleCount, 0);
+  EXPECT_TRUE(fileExists(catPath(b)));
+  EXPECT_TRUE(fileExists(stylePath(b)));
+  EXPECT_EQ(readFile(stylePath(b)), "");
+  EXPECT_TRUE(b.prompter.shown.empty());
+}
+
+TEST(StyleFiles, BadControlCodesAreReportedButTheRowsKept) {
+  Bench b;
+  writeFile(catPath(b), categoryBytes(1) + categoryBytes(2, 0xC9));
+  writeFile(stylePath(b), styleBytes("Bad", 0x2C) + commentBytes("kept") + styleBytes("Good") + commentBytes(""));
+  ASSERT_TRUE(LoadBeerStyles(*b.wb));
+  const StyleTables& t = b.wb->styles;
+  EXPECT_EQ(t.BeerCategoryCount, 2);
+  EXPECT_EQ(t.BeerCategories[1].controlStart, 201);
+  EXPECT_EQ(t.BeerStyleCount, 2);
+  EXPECT_EQ(t.BeerStyles[0].comments, "kept");
+  EXPECT_EQ(trim(t.BeerStyles[1].styleName), "Good");
+  ASSERT_EQ(b.prompter.shown.size(), 2u);
+  EXPECT_EQ(b.prompter.shown[0].title, "Error");
+  EXPECT_EQ(b.prompter.shown[0].text, "Corrupted Beer Category Record(s) in " + catPath(b) + ", Bad Records Ignored");
+  EXPECT_EQ(b.prompter.shown[1].text, "Corrupted Beer Style Record(s) in " + stylePath(b) + ", Bad Records Ignored");
+  const std::string log = readFile(b.wb->folder.file(kErrorLog));
+  EXPECT_NE(log.find("Error #32013(Invalid Beer Category Control Code)"), std::string::npos);
+  EXPECT_NE(log.find("In Function LoadBeerStyles"), std::string::npos);
+  EXPECT_NE(log.find("Error #32015(Invalid Beer Style Control Code)"), std::string::npos);
+}
+
+std::string repeat(const std::string& s, int n) {
+  std::string r;
+  for (int i = 0; i < n; ++i) r += s;
+  return r;
+}
+
+TEST(StyleFiles, FiftyCategoriesAndTwoHundredFiftyStylesLoadSilently) {
+  Bench b;
+  writeFile(catPath(b), repeat(categoryBytes(), 50));
+  writeFile(stylePath(b), repeat(styleBytes() + commentBytes("c"), 250));
+  ASSERT_TRUE(LoadBeerStyles(*b.wb));
+  EXPECT_EQ(b.wb->styles.BeerCategoryCount, 50);
+  EXPECT_EQ(b.wb->styles.BeerStyleCount, 250);
+  EXPECT_EQ(b.wb->styles.BeerStyles[249].styleIndex, 249);
+  EXPECT_TRUE(b.prompter.shown.empty());
+}
+
+TEST(StyleFiles, OneRowPastTheLimitIsReportedAndLoadingStopsWithinTheTables) {
+  Bench b;
+  writeFile(catPath(b), repeat(categoryBytes(), 60));
+  writeFile(stylePath(b), repeat(styleBytes() + commentBytes("c"), 300));
+  ASSERT_TRUE(LoadBeerStyles(*b.wb));  // no termination, no read past the tables
+  const StyleTables& t = b.wb->styles;
+  EXPECT_EQ(t.BeerCategoryCount, 51);
+  EXPECT_EQ(t.BeerStyleCount, 251);
+  EXPECT_EQ(t.BeerStyles[250].styleIndex, 250);
+  ASSERT_EQ(b.prompter.shown.size(), 2u);
+  EXPECT_EQ(b.prompter.shown[0].text,
+            "Maximum Beer Category Records Reached in " + catPath(b) + ", Additional Records Ignored");
+  // Too many styles are told as corrupted ones, under 32015.
+  EXPECT_EQ(b.prompter.shown[1].text, "Corrupted Beer Style Record(s) in " + stylePath(b) + ", Bad Records Ignored");
+  EXPECT_NE(readFile(b.wb->folder.file(kErrorLog)).find("Error #32014(Maximum Beer Categories Reached)"),
+            std::string::npos);
+}
+
+TEST(StyleFiles, ABlankStyleIsCountedOnLoadAndDroppedOnSave) {
+  Bench b;
+  writeFile(catPath(b), categoryBytes());
+  writeFile(stylePath(b), styleBytes("First") + commentBytes("") + styleBytes("") + commentBytes("gone") +
+                              styleBytes("Third") + commentBytes("3"));
+  ASSERT_TRUE(LoadBeerStyles(*b.wb));
+  EXPECT_EQ(b.wb->styles.BeerStyleCount, 3);
+  ASSERT_TRUE(saveBeerStyles(*b.wb));
+  ASSERT_TRUE(LoadBeerStyles(*b.wb));
+  const StyleTables& t = b.wb->styles;
+  ASSERT_EQ(t.BeerStyleCount, 2);
+  EXPECT_EQ(trim(t.BeerStyles[1].styleName), "Third");
+  EXPECT_EQ(t.BeerStyles[1].styleIndex, 1);
+  EXPECT_EQ(t.BeerStyles[1].comments, "3");
+  // The file holds the key as it was when written: row 2 of the earlier load.
+  EXPECT_EQ(readFile(stylePath(b)).substr(190 + 166, 2), std::string("\x02\x00", 2));
+}
+
+TEST(StyleFiles, AFailedSaveLeavesTheOldFilesInPlace) {
+  Bench b;
+  writeFile(catPath(b), categoryBytes());
+  writeFile(stylePath(b), styleBytes() + commentBytes("old"));
+  ASSERT_TRUE(LoadBeerStyles(*b.wb));
+  b.wb->styles.BeerStyles[0].comments = "new";
+  // The new style file cannot be created (its name is taken by a folder).
+  std::filesystem::create_directory(stylePath(b) + ".new");
+  EXPECT_THROW(saveBeerStyles(*b.wb), Terminated);
+  EXPECT_EQ(readFile(catPath(b)), categoryBytes());
+  EXPECT_EQ(readFile(stylePath(b)), styleBytes() + commentBytes("old"));
+  EXPECT_FALSE(fileExists(catPath(b) + ".new"));
+  ASSERT_FALSE(b.prompter.shown.empty());
+  EXPECT_NE(b.prompter.shown.back().text.find("saveBeerStyles"), std::string::npos);
+}
+
+TEST(StyleFiles, CorruptedFilesNeverCrash) {
+  Bench b;
+  std::string junk;
+  for (int i = 0; i < 20000; ++i) junk += static_cast<char>((i * 7919) & 0xFF);
+  writeFile(catPath(b), junk);
+  writeFile(stylePath(b), junk);
+  ASSERT_TRUE(LoadBeerStyles(*b.wb));
+  EXPECT_LE(b.wb->styles.BeerCategoryCount, 51);
+  EXPECT_LE(b.wb->styles.BeerStyleCount, 251);
+  for (int r = 0; r < b.wb->styles.BeerStyleCount; ++r) (void)styleBrowserEntry(b.wb->styles, r);
+}
+
+}  // namespace
+}  // namespace zy
