@@ -27,10 +27,12 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include "calculators/HopsUtilization.h"
 #include "core/measures.h"
 #include "core/text.h"
 #include "reference/Backup.h"
 #include "reference/UpdateCheck.h"
+#include "styles/StyleStore.h"
 #include "ui/QtHttpFetch.h"
 #include "ui/QtPrompter.h"
 #include "ui/TopicIcons.h"
@@ -414,6 +416,8 @@ void frmMain::load(const std::string& commandLine) {
     browser_.loadEncyclopediaTopics();
     browser_.loadMiniBooks();
   });
+  sequence_.on(LoadStep::LoadBeerStyles, [this] { LoadBeerStyles(wb_); });
+  sequence_.on(LoadStep::LoadHopsUtilization, [this] { LoadHopsUtilization(wb_.hops, wb_.settings); });
   sequence_.on(LoadStep::LabelEntry, [this] { showLabelEntry(); });
   sequence_.on(LoadStep::BuildTreeAndTabs, [this] {
     browser_.showFirstTopic();
@@ -463,7 +467,6 @@ void frmMain::commandLineImport(const std::string& path) {
 }
 
 void frmMain::updateCheck() {
-  if (wb_.defaults.autoUpdate == 0) return;
   HttpFetch* http = http_;
   if (!http) {
     ownHttp_ = std::make_unique<QtHttpFetch>();
@@ -472,7 +475,7 @@ void frmMain::updateCheck() {
   auto launcher = openBrowser ? openBrowser : [](const std::string& url) {
     QDesktopServices::openUrl(QUrl(QString::fromStdString(url)));
   };
-  checkForUpdate(wb_, *http, {}, launcher);
+  startupUpdateCheck(wb_, *http, launcher);
 }
 
 // ---- repainting from the model ---------------------------------------------------------------------

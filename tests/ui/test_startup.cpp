@@ -90,7 +90,7 @@ TEST(Startup, LoadRunsEveryStepInItsOrder) {
   const std::vector<std::string> expected = {
       "WindowSettings",     "OpenTopicStore",  "InitMeasures",
       "LoadInventories (not present)", "LoadDefaults", "LoadTopicsAndBooks",
-      "LoadBeerStyles (not present)",  "LoadHopsUtilization (not present)",
+      "LoadBeerStyles",     "LoadHopsUtilization",
       "LabelEntry",         "BuildTreeAndTabs", "CommandLineImport", "UpdateCheck"};
   EXPECT_EQ(w.loadSequence().log(), expected);
   // The trees are loaded and the first topic is shown and in the history.
