@@ -1,48 +1,44 @@
-// The desktop program. Until the encyclopedia window lands, a plain main window tells what the
-// program found: its version, its program folder and the recipes stored there.
+// The desktop program: `zythara [--home DIR] [--settings FILE] [RECIPE-FILE]`.
 #include <QApplication>
-#include <QLabel>
-#include <QMainWindow>
-#include <QVBoxLayout>
+#include <cstdio>
+#include <cstdlib>
 
 #include "core/paths.h"
 #include "core/settings.h"
-#include "recipes/RecipeStore.h"
+#include "core/text.h"
 #include "ui/QtPrompter.h"
+#include "ui/SubMain.h"
+#include "ui/TopicIcons.h"
+#include "ui/frmMain.h"
+#include "workbench/Startup.h"
 #include "workbench/Workbench.h"
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setApplicationName(zy::kApplicationName);
-  std::string home, settingsFile;
-  QStringList args = QApplication::arguments();
-  for (int i = 1; i < args.size(); ++i) {
-    if (args[i] == "--home" && i + 1 < args.size()) home = args[++i].toStdString();
-    else if (args[i] == "--settings" && i + 1 < args.size()) settingsFile = args[++i].toStdString();
+  QApplication::setWindowIcon(zy::programIcon());
+
+  std::vector<std::string> args;
+  const QStringList qargs = QApplication::arguments();
+  for (int i = 1; i < qargs.size(); ++i) args.push_back(qargs[i].toStdString());
+  zy::CommandLine cl = zy::parseCommandLine(args);
+  if (!cl.unknownOptions.empty()) {
+    std::fprintf(stderr, "zythara: unknown option %s\nusage: zythara [--home DIR] [--settings FILE] [RECIPE-FILE]\n",
+                 cl.unknownOptions.front().c_str());
+    return 2;
   }
-  std::string root = zy::chooseProgramFolder(home, zy::executableDir());
+
+  const std::string root = zy::chooseProgramFolder(cl.home, zy::executableDir());
   zy::ProgramFolder(root).ensureFolders();
-  zy::FileSettingsStore settings(zy::chooseSettingsFile(settingsFile));
+  zy::FileSettingsStore settings(zy::chooseSettingsFile(cl.settingsFile));
   zy::QtPrompter prompter;
   zy::SystemClock clock;
   zy::Workbench wb(root, settings, prompter, clock);
-  wb.errors.setTerminationHook([](int n) { std::_Exit(n == 0 ? 3 : 3); });
-  wb.loadDefaults();
-  long recipes = 0;
-  zy::scanRecipes(wb, [&](long, const zy::RecipeRecord&) { ++recipes; });
+  // A terminating error ends the process at once, saving nothing.
+  wb.errors.setTerminationHook([](int) { std::_Exit(3); });
 
-  QMainWindow w;
-  w.setWindowTitle("Homebrewing Encyclopedia");
-  auto* central = new QWidget;
-  auto* layout = new QVBoxLayout(central);
-  layout->addWidget(new QLabel(QString("<h2>Homebrewing Encyclopedia</h2>")));
-  layout->addWidget(new QLabel(QString("Version %1").arg(QString::fromStdString(zy::versionText()))));
-  layout->addWidget(new QLabel(QString("Program folder: %1").arg(QString::fromStdString(root))));
-  layout->addWidget(new QLabel(QString("Stored recipes: %1").arg(recipes)));
-  layout->addStretch();
-  w.setCentralWidget(central);
-  w.resize(520, 240);
-  prompter.setParent(&w);
-  w.show();
+  zy::SubMain subMain(wb);
+  zy::frmMain* main = subMain.run(zy::utf8ToCp1252(cl.recipeFile));
+  prompter.setParent(main);
   return app.exec();
 }

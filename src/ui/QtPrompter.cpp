@@ -6,6 +6,7 @@
 #include <QMessageBox>
 
 #include "core/text.h"
+#include "ui/dlgSelectFolder.h"
 
 namespace zy {
 
@@ -91,9 +92,7 @@ std::optional<std::string> QtPrompter::saveFile(const std::string& title, const 
 }
 
 std::optional<std::string> QtPrompter::chooseFolder(const std::string& title, const std::string& initialPath) {
-  QString f = QFileDialog::getExistingDirectory(parent_, qs(title), qs(initialPath));
-  if (f.isEmpty()) return std::nullopt;
-  return s8(f);
+  return dlgSelectFolder::pick(parent_, title, initialPath);
 }
 
 void QtPrompter::beep() { QApplication::beep(); }

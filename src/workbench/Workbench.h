@@ -46,6 +46,10 @@ class Workbench {
   HopsUtilization hops;
   // The recipe list's model: the tree of recipes, its sort mode and currentRecipeKey.
   RecipeList recipeList;
+
+  // Set when the main window starts to close: a child window's close only hides it (so that it
+  // keeps its state between uses) unless this is set.
+  bool appClosing = false;
 };
 
 }  // namespace zy

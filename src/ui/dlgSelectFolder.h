@@ -1,0 +1,35 @@
+#pragma once
+// The folder picker of backup and restore: a tree of folders, the chosen path in a box that can
+// be typed in, and a button for a new folder.
+#include <QDialog>
+#include <optional>
+#include <string>
+
+class QFileSystemModel;
+class QLineEdit;
+class QPushButton;
+class QTreeView;
+
+namespace zy {
+
+class dlgSelectFolder : public QDialog {
+  Q_OBJECT
+ public:
+  dlgSelectFolder(const QString& title, const QString& initialFolder, QWidget* parent = nullptr);
+  QString folder() const;
+  void setFolder(const QString& path);
+
+  // Shows the picker; the chosen folder (8-bit text) or nothing on Cancel.
+  static std::optional<std::string> pick(QWidget* parent, const std::string& title, const std::string& initial);
+
+  QLineEdit* txtFolder = nullptr;
+  QTreeView* tvFolders = nullptr;
+  QPushButton* cmdNewFolder = nullptr;
+  QPushButton* cmdOK = nullptr;
+
+ private:
+  void newFolder();
+  QFileSystemModel* model_ = nullptr;
+};
+
+}  // namespace zy

@@ -1,0 +1,47 @@
+#pragma once
+// What the window tests share: a small encyclopedia written into a test's program folder, a
+// local HTTP server, and helpers to drive widgets as a person would.
+#include <QByteArray>
+#include <QMap>
+#include <QString>
+#include <QTcpServer>
+#include <functional>
+#include <string>
+
+class QTreeWidget;
+class QTreeWidgetItem;
+class QWidget;
+
+namespace zy::test {
+
+// Writes Reference/Zyth.enc, ZythTOC.enc and ZythMB.enc into `root`:
+//   "Barley Malt"  one picture, also see "Mashing", "Hops", "Nothing Like This"
+//   "Hops"         no picture, no also see
+//   "Mashing"      two pictures, also see "Barley Malt"
+//   "Yeast"        no picture
+// and one mini-book "First Brew" with the chapters "Hops" and "Yeast".
+void writeTestReference(const std::string& root);
+
+// Copies the program's help pages (data/help of the sources) into root/Help.
+void copyHelpPages(const std::string& root);
+
+// A one-thread HTTP server on 127.0.0.1 answering GETs from a table of paths.
+class LocalHttpServer : public QObject {
+ public:
+  LocalHttpServer();
+  quint16 port() const { return server_.serverPort(); }
+  QString url(const QString& path) const;
+  // path -> body answered with 200; a path not in the table gets 404.
+  QMap<QString, QByteArray> files;
+  int requests = 0;
+
+ private:
+  QTcpServer server_;
+};
+
+// A click on a tree item, the way the mouse does it.
+void clickItem(QTreeWidget* tree, QTreeWidgetItem* item);
+// Runs `action` as soon as a modal window is open (for the dialogs a menu command opens).
+void whenModalOpens(const std::function<void(QWidget*)>& action);
+
+}  // namespace zy::test

@@ -1,0 +1,300 @@
+// The encyclopedia window driven as a person would: the tabs, the history, Also See, Go Back,
+// the search, the mini-books, and the menu commands of backup, restore, Quillmark and update.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTest>
+#include <QTextBrowser>
+#include <QStatusBar>
+#include <QThread>
+#include <QToolBar>
+#include <QTreeWidget>
+#include <filesystem>
+
+#include "core/dates.h"
+#include "core/paths.h"
+#include "reference/Backup.h"
+#include "reference/UpdateCheck.h"
+#include "support/TestSupport.h"
+#include "ui/QtHttpFetch.h"
+#include "ui/UiSupport.h"
+#include "ui/dlgSelectFolder.h"
+#include "ui/frmHelp.h"
+#include "ui/frmMain.h"
+
+namespace zy::test {
+namespace {
+
+struct MainBench : Bench {
+  MainBench() {
+    writeTestReference(dir.path());
+    copyHelpPages(dir.path());
+    settings.write("Settings", "Check Update", "1/1/2099");
+    w = std::make_unique<frmMain>(*wb);
+    w->quitOnClose = false;
+    w->load("");
+    w->show();
+  }
+  QTreeWidget* tree(int i) { return w->tvwTopics[static_cast<size_t>(i)]; }
+  QStringList texts(int i) {
+    QStringList out;
+    for (int k = 0; k < tree(i)->topLevelItemCount(); ++k) out << tree(i)->topLevelItem(k)->text(0);
+    return out;
+  }
+  std::unique_ptr<frmMain> w;
+};
+
+TEST(MainWindow, TopicsHistoryAndGoBack) {
+  MainBench b;
+  EXPECT_EQ(b.texts(TreeAllTopics), QStringList({"Barley Malt", "Hops", "Mashing", "Yeast"}));
+  EXPECT_EQ(b.w->tabTopics->tabText(0), "&All Topics");
+  EXPECT_EQ(b.w->lblTitle->text(), "Barley Malt");
+  // The page: title, one picture table, the body and the legal line.
+  const QString page = QString::fromStdString(b.w->browser().page);
+  EXPECT_TRUE(page.startsWith("<H1>Barley Malt</H1>\r\n<TABLE ALIGN=left BORDER=5>"));
+  EXPECT_TRUE(b.w->webTopic->toPlainText().contains("Malt gives the wort its sugar."));
+  EXPECT_TRUE(b.w->webTopic->toPlainText().contains("Pale malt"));
+  EXPECT_FALSE(b.w->cmdGoBack->isEnabled());
+
+  clickItem(b.tree(0), b.tree(0)->topLevelItem(1));  // Hops
+  clickItem(b.tree(0), b.tree(0)->topLevelItem(1));  // the same topic again: no second entry
+  clickItem(b.tree(0), b.tree(0)->topLevelItem(3));  // Yeast
+  EXPECT_EQ(b.w->lblTitle->text(), "Yeast");
+  EXPECT_EQ(b.texts(TreeHistory), QStringList({"Yeast", "Hops", "Barley Malt"}));
+  EXPECT_TRUE(b.w->cmdGoBack->isEnabled());
+
+  b.w->cmdGoBack->click();
+  EXPECT_EQ(b.w->lblTitle->text(), "Hops");
+  EXPECT_EQ(b.tree(TreeHistory)->currentItem()->text(0), "Hops");
+  b.w->cmdGoBack->click();
+  EXPECT_EQ(b.w->lblTitle->text(), "Barley Malt");
+  EXPECT_FALSE(b.w->cmdGoBack->isEnabled());
+  EXPECT_EQ(b.texts(TreeHistory).size(), 3);
+
+  // A topic chosen on the History tab is shown without a new entry.
+  QTest::mouseClick(b.w->tabTopics, Qt::LeftButton, Qt::NoModifier, b.w->tabTopics->tabRect(TreeHistory).center());
+  EXPECT_EQ(b.w->browser().currentTab, TreeHistory);
+  clickItem(b.tree(TreeHistory), b.tree(TreeHistory)->topLevelItem(0));
+  EXPECT_EQ(b.w->lblTitle->text(), "Yeast");
+  EXPECT_EQ(b.texts(TreeHistory).size(), 3);
+  EXPECT_TRUE(b.w->cmdGoBack->isEnabled());
+}
+
+TEST(MainWindow, AlsoSeeListAndOriginalTopic) {
+  MainBench b;
+  // The first topic names Mashing, Hops and a title that matches nothing.
+  EXPECT_EQ(b.w->tabTopics->tabText(TreeAlsoSee), "* A&lso See");
+  EXPECT_EQ(b.texts(TreeAlsoSee), QStringList({"Mashing", "Hops"}));
+  QTest::mouseClick(b.w->tabTopics, Qt::LeftButton, Qt::NoModifier, b.w->tabTopics->tabRect(TreeAlsoSee).center());
+  EXPECT_TRUE(b.w->picAlsoSee->isVisible());
+  EXPECT_FALSE(b.w->picSearch->isVisible());
+  EXPECT_TRUE(b.w->lblAlsoSeeTopic->text().contains("Barley Malt"));
+  // Walking the list leaves it in place.
+  clickItem(b.tree(TreeAlsoSee), b.tree(TreeAlsoSee)->topLevelItem(0));
+  EXPECT_EQ(b.w->lblTitle->text(), "Mashing");
+  EXPECT_EQ(b.texts(TreeAlsoSee), QStringList({"Mashing", "Hops"}));
+  EXPECT_TRUE(b.w->cmdAlsoSee->isEnabled());  // Mashing has its own list, not loaded yet
+  clickItem(b.tree(TreeAlsoSee), b.tree(TreeAlsoSee)->topLevelItem(1));
+  EXPECT_EQ(b.w->lblTitle->text(), "Hops");
+  EXPECT_FALSE(b.w->cmdAlsoSee->isEnabled());
+  // A click on the original topic shows it again and rebuilds the list.
+  emit b.w->lblAlsoSeeTopic->linkActivated("#topic");
+  EXPECT_EQ(b.w->lblTitle->text(), "Barley Malt");
+  EXPECT_EQ(b.texts(TreeAlsoSee), QStringList({"Mashing", "Hops"}));
+  // A topic with no list from another tree empties it.
+  clickItem(b.tree(0), b.tree(0)->topLevelItem(3));
+  EXPECT_EQ(b.w->tabTopics->tabText(TreeAlsoSee), "  A&lso See");
+  EXPECT_EQ(b.tree(TreeAlsoSee)->topLevelItemCount(), 0);
+  EXPECT_EQ(b.w->lblAlsoSeeTopic->text(), "");
+}
+
+TEST(MainWindow, SearchAsTyped) {
+  MainBench b;
+  QTest::mouseClick(b.w->tabTopics, Qt::LeftButton, Qt::NoModifier, b.w->tabTopics->tabRect(TreeSearch).center());
+  ASSERT_TRUE(b.w->picSearch->isVisible());
+  QTest::keyClicks(b.w->txtSearch, "SUGAR");
+  QTest::keyClick(b.w->txtSearch, Qt::Key_Return);
+  EXPECT_EQ(b.w->lblSearch->text(), "2 Found");
+  EXPECT_EQ(b.texts(TreeSearch), QStringList({"Barley Malt", "Yeast"}));
+  clickItem(b.tree(TreeSearch), b.tree(TreeSearch)->topLevelItem(1));
+  EXPECT_EQ(b.w->lblTitle->text(), "Yeast");
+
+  b.w->txtSearch->clear();
+  QTest::keyClicks(b.w->txtSearch, "ibu");
+  b.w->cmdSearch->click();
+  EXPECT_EQ(b.texts(TreeSearch), QStringList({"Hops"}));
+  QTest::keyClicks(b.w->txtSearch, "x-nothing");
+  b.w->cmdSearch->click();
+  EXPECT_EQ(b.w->lblSearch->text(), "None Found");
+
+  b.w->cmdClear->click();
+  EXPECT_EQ(b.w->txtSearch->text(), "");
+  EXPECT_EQ(b.w->lblSearch->text(), "");
+  b.w->cmdSearch->click();
+  ASSERT_FALSE(b.prompter.shown.empty());
+  EXPECT_EQ(b.prompter.shown.back().text, "Nothing Entered for Searching");
+  EXPECT_EQ(b.prompter.shown.back().title, "Topic Search");
+}
+
+TEST(MainWindow, MiniBooksOpenCloseAndChapters) {
+  MainBench b;
+  QTreeWidget* books = b.tree(TreeMiniBooks);
+  ASSERT_EQ(books->topLevelItemCount(), 1);
+  QTreeWidgetItem* book = books->topLevelItem(0);
+  EXPECT_EQ(book->childCount(), 2);
+  EXPECT_EQ(b.w->browser().trees[TreeMiniBooks][0].icon, TopicIcon::ClosedBook);
+  QTest::mouseClick(b.w->tabTopics, Qt::LeftButton, Qt::NoModifier, b.w->tabTopics->tabRect(TreeMiniBooks).center());
+  clickItem(books, book);
+  EXPECT_EQ(b.w->lblTitle->text(), "First Brew");
+  EXPECT_TRUE(b.w->webTopic->toPlainText().contains("Double-click on one of the Closed Books"));
+  EXPECT_EQ(b.texts(TreeHistory).size(), 1);  // a book page is no history entry
+  book->setExpanded(true);
+  EXPECT_EQ(b.w->browser().trees[TreeMiniBooks][0].icon, TopicIcon::OpenBook);
+  clickItem(books, book->child(1));
+  EXPECT_EQ(b.w->lblTitle->text(), "Yeast");
+  EXPECT_EQ(b.texts(TreeHistory).first(), "Yeast");
+  book->setExpanded(false);
+  EXPECT_EQ(b.w->browser().trees[TreeMiniBooks][0].icon, TopicIcon::ClosedBook);
+}
+
+TEST(MainWindow, MenusAndToolbar) {
+  MainBench b;
+  // Entries of windows not in this build stay disabled, never faked.
+  EXPECT_FALSE(b.w->mnuViewRecipeList->isEnabled());
+  EXPECT_FALSE(b.w->tbInventory->isEnabled());
+  int opened = 0;
+  b.w->setChildOpener(frmMain::Child::RecipeList, [&] { ++opened; });
+  EXPECT_TRUE(b.w->mnuViewRecipeList->isEnabled());
+  b.w->tbRecipes->trigger();
+  EXPECT_EQ(opened, 1);
+  EXPECT_EQ(b.w->mnuHelpAbout->text(), "&About Zythara 2");
+  b.w->mnuViewToolbar->trigger();
+  EXPECT_FALSE(b.w->tbToolBar->isVisible());
+  b.w->mnuViewStatusBar->trigger();
+  EXPECT_FALSE(b.w->sbStatusBar->isVisible());
+  // The three help entries open our help window at its three pages.
+  b.w->mnuHelpIndex->trigger();
+  EXPECT_EQ(b.w->help()->tabs->currentIndex(), 1);
+  b.w->mnuHelpSearch->trigger();
+  EXPECT_EQ(b.w->help()->tabs->currentIndex(), 2);
+  b.w->mnuHelpContents->trigger();
+  EXPECT_EQ(b.w->help()->tabs->currentIndex(), 0);
+  EXPECT_EQ(b.w->help()->currentPage(), "Zythara.html");
+}
+
+TEST(MainWindow, QuillmarkNeedsItsPathThenStarts) {
+  MainBench b;
+  EXPECT_FALSE(b.w->mnuViewQuillmark->isVisible());
+  b.wb->defaults.activateQuillmark = 1;
+  b.w->mnuViewQuillmark->trigger();
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].text, "Please Set Path to the Quillmark Program");
+  EXPECT_EQ(b.prompter.shown[0].title, "Missing Quillmark Path");
+
+  const std::string marker = b.dir.file("label-program-ran");
+  const std::string script = b.dir.file("quillmark.sh");
+  writeFile(script, "#!/bin/sh\necho ran > '" + marker + "'\n");
+  std::filesystem::permissions(script, std::filesystem::perms::owner_all);
+  b.wb->defaults.quillmarkPath = script;
+  b.w->mnuViewQuillmark->trigger();
+  for (int i = 0; i < 100 && !fileExists(marker); ++i) QTest::qWait(30);
+  EXPECT_TRUE(fileExists(marker));
+  EXPECT_EQ(b.prompter.shown.size(), 1u);
+}
+
+TEST(MainWindow, BackupThroughTheFolderPickerThenRestoreFromAnEmptyFolder) {
+  MainBench b;
+  for (int i = 0; i < kBackupFileCount; ++i)
+    writeFile(b.wb->folder.dataFile(kBackupFiles[i]), std::string("data ") + kBackupFiles[i]);
+  const std::string target = b.dir.file("Backups/2026-11-22");
+  std::string title;
+  whenModalOpens([&](QWidget* w) {
+    auto* dlg = qobject_cast<dlgSelectFolder*>(w);
+    ASSERT_NE(dlg, nullptr);
+    title = dlg->windowTitle().toStdString();
+    EXPECT_EQ(dlg->folder().toStdString(), target);  // the dated folder is proposed
+    dlg->cmdOK->click();
+  });
+  b.w->mnuFileBackupDB->trigger();
+  EXPECT_EQ(title, "Backup All Zythara Databases");
+  for (int i = 0; i < kBackupFileCount; ++i)
+    EXPECT_EQ(readFile(target + "/" + kBackupFiles[i]), std::string("data ") + kBackupFiles[i]);
+  ASSERT_FALSE(b.prompter.shown.empty());
+  EXPECT_EQ(b.prompter.shown.back().text, "The Full Database Backup Has Completed Successfully");
+
+  // Restore from a folder without ZYRecipe.dat: nothing copied.
+  const std::string empty = b.dir.file("Empty");
+  makeFolders(empty);
+  whenModalOpens([&](QWidget* w) {
+    auto* dlg = qobject_cast<dlgSelectFolder*>(w);
+    ASSERT_NE(dlg, nullptr);
+    title = dlg->windowTitle().toStdString();
+    dlg->txtFolder->setText(QString::fromStdString(empty));
+    dlg->cmdOK->click();
+  });
+  b.w->mnuFileRestoreDB->trigger();
+  EXPECT_EQ(title, "Restore All Zythara Databases");
+  EXPECT_EQ(b.prompter.shown.back().text,
+            "No Backup Files in this Folder, Be Sure to Double-Click the Desired Folder");
+  EXPECT_EQ(readFile(b.wb->folder.dataFile(kRecipeFile)), std::string("data ") + kRecipeFile);
+}
+
+TEST(UpdateCheck, QtFetchAgainstALocalServer) {
+  LocalHttpServer server;
+  server.files["/ZYCurrent.ver"] = "9.99.999";
+  QtHttpFetch http(3000);
+  EXPECT_EQ(http.fetch(server.url("/ZYCurrent.ver").toStdString()), "9.99.999");
+  EXPECT_EQ(http.fetch(server.url("/missing.ver").toStdString()), "");
+  EXPECT_EQ(http.fetch("http://127.0.0.1:1/ZYCurrent.ver"), "");  // refused
+  EXPECT_EQ(http.fetch("not a url"), "");
+  EXPECT_EQ(server.requests, 2);
+}
+
+TEST(UpdateCheck, AtTheEndOfTheLoadThroughTheMainWindow) {
+  Bench b;
+  writeTestReference(b.dir.path());
+  LocalHttpServer server;
+  server.files["/ZYCurrent.ver"] = "9.99.999";
+  b.settings.write("Settings", "Update Address", server.url("/ZYCurrent.ver").toStdString());
+  std::string opened;
+  {
+    // Due (the default date lies in the past): newer version, the user says Yes.
+    b.prompter.answers = {Answer::Yes};
+    frmMain w(*b.wb);
+    w.quitOnClose = false;
+    w.openBrowser = [&](const std::string& url) { opened = url; };
+    w.load("");
+    EXPECT_EQ(server.requests, 1);
+    ASSERT_EQ(b.prompter.shown.size(), 1u);
+    EXPECT_EQ(b.prompter.shown[0].text, "A New Version of Zythara is available.  Download it Now?");
+    EXPECT_EQ(opened, server.url("/download.html").toStdString());
+    auto next = parseDate(b.settings.read("Settings", "Check Update", ""));
+    ASSERT_TRUE(next.has_value());
+    EXPECT_NEAR(*next, b.clock.now() + 5, 1.0 / 86400);
+  }
+  {
+    // Not due now: no request at all.
+    frmMain w(*b.wb);
+    w.quitOnClose = false;
+    w.load("");
+    EXPECT_EQ(server.requests, 1);
+  }
+  {
+    // Due again with the same version as ours: nothing shown.
+    server.files["/ZYCurrent.ver"] = QByteArray::fromStdString(updateVersionText());
+    b.settings.write("Settings", "Check Update", "1/1/2007");
+    frmMain w(*b.wb);
+    w.quitOnClose = false;
+    w.load("");
+    EXPECT_EQ(server.requests, 2);
+    EXPECT_EQ(b.prompter.shown.size(), 1u);
+  }
+}
+
+}  // namespace
+}  // namespace zy::test

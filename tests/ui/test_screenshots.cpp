@@ -1,0 +1,93 @@
+// Pictures of the windows for a person to look at: written only when ZY_SCREENSHOT_DIR names a
+// folder (run under xvfb-run for the look of a real screen).
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QLineEdit>
+#include <QTest>
+#include <QTreeWidget>
+
+#include "support/TestSupport.h"
+#include "ui/UiSupport.h"
+#include "ui/frmAbout.h"
+#include "ui/frmHelp.h"
+#include "ui/frmMain.h"
+#include "ui/frmProperties.h"
+#include "ui/frmSplash.h"
+
+namespace zy::test {
+namespace {
+
+void save(QWidget& w, const QString& dir, const QString& name) {
+  QApplication::processEvents();
+  QTest::qWait(50);
+  w.grab().save(QDir(dir).filePath(name + ".png"));
+}
+
+TEST(Screenshots, EveryWindow) {
+  const QString dir = qEnvironmentVariable("ZY_SCREENSHOT_DIR");
+  if (dir.isEmpty()) GTEST_SKIP() << "ZY_SCREENSHOT_DIR not set";
+  QDir().mkpath(dir);
+  Bench b;
+  const QString stage = ZY_STAGE_DIR;
+  // The real encyclopedia when the build staged it, else the small test one.
+  if (QFile::exists(stage + "/Reference/Zyth.enc")) b.wb = std::make_unique<Workbench>(stage.toStdString(), b.settings, b.prompter, b.clock);
+  else writeTestReference(b.dir.path());
+  b.wb->errors.setTerminationHook([](int n) { throw Terminated(n); });
+  b.settings.write("Settings", "Check Update", "1/1/2099");
+
+  frmSplash splash;
+  splash.show();
+  save(splash, dir, "splash");
+  splash.close();
+
+  frmMain w(*b.wb);
+  w.quitOnClose = false;
+  w.load("");
+  w.resize(1000, 680);
+  w.show();
+  save(w, dir, "main");
+  if (w.tvwTopics[TreeAllTopics]->topLevelItemCount() > 2) {
+    clickItem(w.tvwTopics[TreeAllTopics], w.tvwTopics[TreeAllTopics]->topLevelItem(2));
+  }
+  w.tabTopics->setCurrentIndex(TreeMiniBooks);
+  if (w.tvwTopics[TreeMiniBooks]->topLevelItemCount() > 0) {
+    w.tvwTopics[TreeMiniBooks]->topLevelItem(0)->setExpanded(true);
+    clickItem(w.tvwTopics[TreeMiniBooks], w.tvwTopics[TreeMiniBooks]->topLevelItem(0));
+  }
+  save(w, dir, "main-minibooks");
+  w.tabTopics->setCurrentIndex(TreeAlsoSee);
+  save(w, dir, "main-alsosee");
+  w.tabTopics->setCurrentIndex(TreeSearch);
+  QTest::keyClicks(w.txtSearch, "malt");
+  QTest::keyClick(w.txtSearch, Qt::Key_Return);
+  save(w, dir, "main-search");
+
+  frmProperties p(*b.wb);
+  p.show();
+  for (int i = 0; i < p.tbsOptions->count(); ++i) {
+    p.tbsOptions->setCurrentIndex(i);
+    save(p, dir, QString("properties-%1").arg(i + 1));
+  }
+  p.close();
+
+  frmHelp h(QString(ZY_SOURCE_DIR) + "/data/help");
+  h.show();
+  h.showContents();
+  save(h, dir, "help-contents");
+  h.showIndex("mash");
+  save(h, dir, "help-index");
+  h.showSearch("\"mash efficiency\"");
+  save(h, dir, "help-search");
+
+  frmAbout a;
+  a.show();
+  save(a, dir, "about");
+  w.close();
+}
+
+}  // namespace
+}  // namespace zy::test
