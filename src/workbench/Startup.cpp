@@ -142,9 +142,10 @@ long importCommandLineRecipe(Workbench& wb, const std::string& path) {
     wb.errors.reportFileError(fileErrorFromErrno(errno, path), 0, "frmMain!Form_Load");
     return 0;
   }
-  ImportOutcome outcome = importRecipe(wb, f);
+  // As the list's import: a file the reader refused still leaves the new-recipe default, which
+  // is entered and saved like any other.
+  importRecipe(wb, f);
   std::fclose(f);
-  if (!outcome.recognized) return 0;
   long slot = findNextRecipeSlot(wb);
   if (slot < 1) return 0;
   wb.recipe.rec.recipeNo = static_cast<int>(slot);

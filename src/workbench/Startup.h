@@ -114,8 +114,8 @@ class Workbench;
 // Step 11 of the load: the recipe list is loaded when it was not yet, then, when the file
 // exists, it is read by the exchange reader, given the next free slot, entered (selected) in the
 // recipe list and saved. A file that does not exist is passed over silently; a file that is no
-// recipe exchange file stops after the reader's message, so that no empty recipe is stored.
-// Returns the new record number, 0 when nothing was stored.
+// recipe exchange file gets the reader's message and, as in the list's import, the new-recipe
+// default is stored in its place. Returns the new record number, 0 when nothing was stored.
 long importCommandLineRecipe(Workbench& wb, const std::string& path);
 
 }  // namespace zy
