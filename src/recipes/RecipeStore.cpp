@@ -84,7 +84,7 @@ bool saveCurrentRecipe(Workbench& wb) {
   rec.controlEnd = kControlEnd;
   const int no = rec.recipeNo;
   if (no < 1) {
-    wb.errors.reportError(ERR_SUBSCRIPT, no, kSaveFn, wb.folder.dataFile(kRecipeFile), "Bad record number");
+    wb.errors.reportError(ERR_BAD_RECORD_NUMBER, no, kSaveFn, wb.folder.dataFile(kRecipeFile), "Bad record number");
     return false;
   }
   long line = 0;
