@@ -157,11 +157,21 @@ TEST(HopsEditor, EditsAreClampedAndKeepTheCurveRising) {
   e.editCell(2, ".5");
   EXPECT_EQ(e.cells[2], "0.5");
 
-  // The same value again changes neither the title nor the curve.
+  // The same value again changes neither the title nor the curve; the grid takes one decimal,
+  // so 18.84 is the same value as 18.8.
   e = openedOnDefaults();
   e.editCell(7, "18.80");
   EXPECT_EQ(e.cells[7], "18.8");
+  e.editCell(7, "18.84");
+  EXPECT_EQ(e.cells[7], "18.8");
   EXPECT_EQ(e.lblTitle, "Rager");
+  e.editCell(7, "18.86");
+  EXPECT_EQ(e.cells[7], "18.9");
+  EXPECT_EQ(e.lblTitle, "Custom Utilization Curve");
+  // Text that is no number reads as 0 and flattens the rows above.
+  e.editCell(2, "abc");
+  EXPECT_EQ(e.cells[2], "0.0");
+  EXPECT_EQ(e.cells[1], "0.0");
 }
 
 TEST(HopsEditor, PresetsKeepTheirTitleAndSetTheirFactors) {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 
 #include "core/text.h"
 #include "styles/StyleMatch.h"
@@ -64,6 +65,41 @@ TEST(ShippedStyles, SheetsBuildFilesThatLoadWithoutAWord) {
   const StyleStatistics st = computeStyleStatistics(s);
   EXPECT_EQ(st.aob, 98);
   EXPECT_EQ(st.bjcp, 152);
+
+  // Every line of both sheets lands in its row of the files, in sheet order.
+  const auto catLines = split(test::readFile(dir + "categories.csv"), '\n');
+  int row = 0;
+  for (size_t i = 1; i < catLines.size(); ++i) {
+    if (trimWhite(catLines[i]).empty()) continue;
+    const auto c = splitCsvLine(trimWhite(catLines[i]));
+    ASSERT_EQ(c.size(), 4u);
+    const BeerCategoryRecord& r = s.BeerCategories[static_cast<size_t>(row)];
+    EXPECT_EQ(styleSourceName(r.source), c[0]) << i;
+    EXPECT_EQ(trim(r.id), c[1]) << i;
+    EXPECT_EQ(cp1252ToUtf8(trim(r.category)), c[2]) << i;
+    EXPECT_EQ(cp1252ToUtf8(trim(r.subCategory)), c[3]) << i;
+    ++row;
+  }
+  EXPECT_EQ(row, s.BeerCategoryCount);
+  const auto styleLines = split(test::readFile(dir + "styles.csv"), '\n');
+  row = 0;
+  for (size_t i = 1; i < styleLines.size(); ++i) {
+    if (trimWhite(styleLines[i]).empty()) continue;
+    const auto c = splitCsvLine(trimWhite(styleLines[i]));
+    ASSERT_EQ(c.size(), 14u);
+    const BeerStyleRecord& r = s.BeerStyles[static_cast<size_t>(row)];
+    EXPECT_EQ(styleSourceName(r.source), c[0]) << i;
+    const BeerCategoryRecord& cat = s.BeerCategories[static_cast<size_t>(findCategoryRow(s, r.categoryIndex))];
+    EXPECT_EQ(trim(cat.id), c[1]) << i;
+    EXPECT_EQ(cat.source, r.source) << i;
+    EXPECT_EQ(trim(r.styleId), c[2]) << i;
+    EXPECT_EQ(cp1252ToUtf8(trim(r.styleName)), c[3]) << i;
+    const double ranges[10] = {r.ogLow, r.ogHigh, r.fgLow, r.fgHigh, r.ibuLow, r.ibuHigh,
+                               r.srmLow, r.srmHigh, r.alcoholLow, r.alcoholHigh};
+    for (size_t k = 0; k < 10; ++k) EXPECT_EQ(ranges[k], c[4 + k].empty() ? 0.0 : std::stod(c[4 + k])) << i << " " << k;
+    ++row;
+  }
+  EXPECT_EQ(row, s.BeerStyleCount);
 }
 
 TEST(ShippedStyles, SheetsThatDoNotFitAreRefusedWithTheirLine) {

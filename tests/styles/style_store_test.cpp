@@ -244,6 +244,20 @@ TEST(StyleFiles, OneRowPastTheLimitIsReportedAndLoadingStopsWithinTheTables) {
             std::string::npos);
 }
 
+TEST(StyleFiles, TheLimitRowIsReachedEvenWithTheLongestCommentsAndNothingBeyondIsRead) {
+  Bench b;
+  // 251 styles with comments of 32767 bytes, then a megabyte of junk: the 251st style is still
+  // read (and reported), the junk is not.
+  const std::string longest(32767, 'k');
+  writeFile(stylePath(b), repeat(styleBytes() + commentBytes(longest), 251) + std::string(1 << 20, '\x7F'));
+  ASSERT_TRUE(LoadBeerStyles(*b.wb));
+  const StyleTables& t = b.wb->styles;
+  EXPECT_EQ(t.BeerStyleCount, 251);
+  EXPECT_EQ(t.BeerStyles[250].comments, longest);
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].text, "Corrupted Beer Style Record(s) in " + stylePath(b) + ", Bad Records Ignored");
+}
+
 TEST(StyleFiles, ABlankStyleIsCountedOnLoadAndDroppedOnSave) {
   Bench b;
   writeFile(catPath(b), categoryBytes());
