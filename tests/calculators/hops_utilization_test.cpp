@@ -308,6 +308,15 @@ TEST(HopsEditor, AcceptStoresEverythingCancelNothing) {
   EXPECT_EQ(again.UtilTable, h.UtilTable);
   EXPECT_EQ(again.UtilTitle, h.UtilTitle);
 
+  // The Tinseth base survives the settings' decimal text.
+  e.cmdTinseth();
+  e.saveHopsUtilization(h, s);
+  LoadHopsUtilization(again, s);
+  EXPECT_EQ(again.UtilTitle, "Tinseth");
+  EXPECT_EQ(again.GravityAdjustment, 2);
+  EXPECT_DOUBLE_EQ(again.Factor2, 0.000125);
+  EXPECT_DOUBLE_EQ(again.lookupUtilization(240), 0.387);
+
   // Mode 0: the boxes read "N/A", the factors become 0.
   e.cmdReset();
   e.saveHopsUtilization(h, s);

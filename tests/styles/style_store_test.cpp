@@ -175,6 +175,23 @@ TEST(StyleFiles, LoadOverwritesKeysAndReadsComments) {
   EXPECT_EQ(styleBrowserEntry(t, 0).sourceName, "AOB");
 }
 
+TEST(StyleFiles, LoadThenSaveGivesBackTheSameBytes) {
+  Bench b;
+  // Keys already equal to the rows, reserved bytes that are not zero: nothing may change.
+  std::string cat = categoryBytes(0x00);
+  cat.replace(126, 18, "reserved-category!");
+  std::string style = styleBytes();
+  style[166] = '\0';
+  style.replace(168, 18, std::string("\x01\x02reserved-style\xFF\x00", 18));
+  const std::string styles = style + commentBytes("Line one\r\nline two");
+  writeFile(catPath(b), cat);
+  writeFile(stylePath(b), styles);
+  ASSERT_TRUE(LoadBeerStyles(*b.wb));
+  ASSERT_TRUE(saveBeerStyles(*b.wb));
+  EXPECT_EQ(readFile(catPath(b)), cat);
+  EXPECT_EQ(readFile(stylePath(b)), styles);
+}
+
 TEST(StyleFiles, MissingFilesAreCreatedEmpty) {
   Bench b;
   ASSERT_FALSE(fileExists(catPath(b)));
