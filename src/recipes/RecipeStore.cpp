@@ -98,6 +98,13 @@ long findNextRecipeSlot(Workbench& wb) {
     if (getI16(buf, 2) == 0) break;
   }
   wb.recipeSlotPosition = n;
+  // A record number is kept in 16 bits: past 32767 a new recipe would overwrite its own identity.
+  if (n > kMaxRecipeNo) {
+    wb.prompter.message("There is no room for another recipe in " + f->path() +
+                            ": delete recipes you no longer need to make room.",
+                        "Zythara Recipes", Icon::Warning);
+    return 0;
+  }
   return n;
 }
 

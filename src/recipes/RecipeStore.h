@@ -18,7 +18,9 @@ void newRecipeRecord(Workbench& wb);
 
 // The record number for a new recipe: the first free slot (recipeNo 0) at or after the
 // remembered position, or one past the end of the file. The position stays there.
-// Returns 0 when the search was stopped by a corrupted record.
+// Returns 0 when the search was stopped by a corrupted record, or when the file already holds
+// the most recipes a 16-bit record number can name (kMaxRecipeNo), after saying so.
+constexpr long kMaxRecipeNo = 32767;
 long findNextRecipeSlot(Workbench& wb);
 
 // Writes the current recipe at record recipeNo and rewrites its items and comment pieces,

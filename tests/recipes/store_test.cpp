@@ -459,3 +459,25 @@ TEST(RecipeStore, DeleteFreesEverythingButRemovesNothing) {
   std::string all = readFile(b.dir.file("Data/ZYRecipe.dat"));
   EXPECT_EQ(getText(all, 1326, 11), "Nov-22-2026");
 }
+
+TEST(RecipeStore, NoSlotPastTheLastSixteenBitNumber) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  // A file of 32767 recipes, none free.
+  RecipeRecord r;
+  std::string all;
+  all.reserve(1546u * 32767u);
+  for (int n = 1; n <= 32767; ++n) {
+    r.recipeNo = n;
+    all += r.encode();
+  }
+  writeFile(b.dir.file("Data/ZYRecipe.dat"), all);
+  EXPECT_EQ(findNextRecipeSlot(wb), 0);
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].title, "Zythara Recipes");
+  EXPECT_EQ(readFile(b.dir.file("Data/ZYRecipe.dat")).size(), 1546u * 32767u);
+  // Freeing one makes room again.
+  ASSERT_TRUE(deleteRecipe(wb, 40));
+  wb.recipeSlotPosition = 1;
+  EXPECT_EQ(findNextRecipeSlot(wb), 40);
+}
