@@ -72,6 +72,28 @@ std::string upper(std::string_view s) {
   return r;
 }
 
+std::string collationKey(std::string_view s) {
+  // Windows-1252 letters 0xC0..0xFF folded to their plain letters (lower case).
+  static const char* const kFold[64] = {
+      "a", "a", "a", "a", "a", "a", "ae", "c", "e", "e", "e", "e", "i", "i", "i", "i",
+      "d", "n", "o", "o", "o", "o", "o", "\xD7", "o", "u", "u", "u", "u", "y", "th", "ss",
+      "a", "a", "a", "a", "a", "a", "ae", "c", "e", "e", "e", "e", "i", "i", "i", "i",
+      "d", "n", "o", "o", "o", "o", "o", "\xF7", "o", "u", "u", "u", "u", "y", "th", "y"};
+  std::string k;
+  k.reserve(s.size());
+  for (char c : s) {
+    auto u = static_cast<unsigned char>(c);
+    if (u >= 0xC0) k += kFold[u - 0xC0];
+    else if (u == 0x8A || u == 0x9A) k += 's';
+    else if (u == 0x8E || u == 0x9E) k += 'z';
+    else if (u == 0x8C || u == 0x9C) k += "oe";
+    else if (u == 0x9F) k += 'y';
+    else if (u >= 'A' && u <= 'Z') k += static_cast<char>(u + 32);
+    else k += c;
+  }
+  return k;
+}
+
 bool iequals(std::string_view a, std::string_view b) { return a.size() == b.size() && lower(a) == lower(b); }
 
 bool startsWith(std::string_view s, std::string_view prefix) { return s.substr(0, prefix.size()) == prefix; }

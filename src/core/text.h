@@ -14,6 +14,9 @@ std::string rtrim(std::string_view s);
 std::string lower(std::string_view s);   // ASCII and Latin-1 letters of Windows-1252
 std::string upper(std::string_view s);
 bool iequals(std::string_view a, std::string_view b);
+// A key that sorts names as a reader expects: case-blind, and an accented letter beside its plain
+// one (M\xE4rzen between Maibock and Munich, K\xF6lsch beside Kolsch).
+std::string collationKey(std::string_view s);
 bool startsWith(std::string_view s, std::string_view prefix);
 std::string replaceAll(std::string s, std::string_view from, std::string_view to);
 std::vector<std::string> split(std::string_view s, char sep);

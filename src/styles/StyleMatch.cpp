@@ -87,7 +87,9 @@ std::vector<StyleListEntry> buildRecipeStyleList(const StyleTables& t) {
   }
   // The box keeps itself sorted without regard to case; equal names keep the table's order.
   std::stable_sort(styles.begin(), styles.end(),
-                   [](const StyleListEntry& a, const StyleListEntry& b) { return lower(a.text) < lower(b.text); });
+                   [](const StyleListEntry& a, const StyleListEntry& b) {
+                     return collationKey(a.text) < collationKey(b.text);
+                   });
   std::vector<StyleListEntry> list;
   list.reserve(styles.size() + 2);
   list.push_back({kNotRecognizedStyleEntry, -1});
@@ -179,7 +181,7 @@ void StyleMatchModel::sortByColumn(int column) {
   for (size_t i = 0; i < order.size(); ++i) order[i] = i;
   auto sortOn = [&](int c, bool descending) {
     std::stable_sort(order.begin(), order.end(), [&](size_t a, size_t b) {
-      const std::string ka = lower(cell(rows[a], c)), kb = lower(cell(rows[b], c));
+      const std::string ka = collationKey(cell(rows[a], c)), kb = collationKey(cell(rows[b], c));
       return descending ? kb < ka : ka < kb;
     });
   };

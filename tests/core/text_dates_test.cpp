@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include <cmath>
 
 #include "core/dates.h"
@@ -21,6 +23,15 @@ TEST(Text, Windows1252RoundTrip) {
   EXPECT_EQ(zy::utf8ToCp1252("\u4e2d"), "?");  // no 8-bit form
   EXPECT_EQ(zy::utf8ToCp1252("a\xff" "b"), "a?b");  // not UTF-8
   EXPECT_EQ(zy::lower("K\xD6LSCH"), "k\xF6lsch");
+}
+
+TEST(Text, CollationPutsAccentedNamesBesideTheirPlainOnes) {
+  std::vector<std::string> names = {"Munich Helles", "M\xE4rzen", "Maibock", "k\xF6lsch", "Kellerbier",
+                                    "Bi\xE8re de Garde", "Berliner Weisse", "\xC6" "bleskiver"};
+  std::sort(names.begin(), names.end(),
+            [](const std::string& a, const std::string& b) { return zy::collationKey(a) < zy::collationKey(b); });
+  EXPECT_EQ(names, (std::vector<std::string>{"\xC6" "bleskiver", "Berliner Weisse", "Bi\xE8re de Garde", "Kellerbier",
+                                             "k\xF6lsch", "Maibock", "M\xE4rzen", "Munich Helles"}));
 }
 
 TEST(Dates, SerialsAndFormats) {
