@@ -323,13 +323,15 @@ std::string RecipeList::logSuffix(Workbench& wb, int recipeNo) {
 
 namespace {
 // The numbering rule in two parts: what stays of the name, and the number put behind it.
-// No value when the number read does not fit a 16-bit whole number.
+// No value when the number read does not fit a 16-bit whole number, nor the number put behind
+// the name (n + 1 is counted in 16 bits too, so 32767 has no successor).
 std::optional<std::pair<std::string, std::string>> numberParts(const std::string& name) {
   std::string reversed(name.rbegin(), name.rend());
   double v = lenientValue(reversed);
   double r = std::nearbyint(v);  // to the even neighbour at a half, as a 16-bit assignment does
   if (!(r >= -32768.0 && r <= 32767.0)) return std::nullopt;
   const int n = static_cast<int>(r);
+  if (n == 32767) return std::nullopt;
   if (n >= 11) return std::make_pair(name.substr(0, name.size() >= 2 ? name.size() - 2 : 0), itos(n + 1));
   if (n >= 1) return std::make_pair(name.substr(0, name.empty() ? 0 : name.size() - 1), itos(n + 1));
   return std::make_pair(name, std::string(" 1"));
