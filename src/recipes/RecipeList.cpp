@@ -550,8 +550,15 @@ long RecipeList::importRecipeFile(Workbench& wb, const std::string& path) {
     wb.errors.reportFileError(fileErrorFromErrno(errno, path), 0, kImportFn);
     return 0;
   }
-  importRecipe(wb, f);
+  long slot = importAndSave(wb, f);
   std::fclose(f);
+  return slot;
+}
+
+long RecipeList::importAndSave(Workbench& wb, std::FILE* file) {
+  // No test of success: a file the reader refused leaves the new-recipe default, which is
+  // entered and saved like any other recipe.
+  importRecipe(wb, file);
   long slot = findNextRecipeSlot(wb);
   if (slot < 1) return 0;
   wb.recipe.rec.recipeNo = static_cast<int>(slot);
