@@ -578,12 +578,13 @@ bool RecipeList::exportRecipeFile(Workbench& wb, const std::string& key, const s
   const RecipeNode* n = tree.find(key);
   if (!n || !n->isLeaf()) return false;
   if (!loadRecipe(wb, recipeNumber(key))) return false;
+  // The dialog's OK: the folder is remembered before the file is opened.
+  wb.settings.write(kRecipeListSection, "Export Path", folderOf(path));
   std::FILE* f = std::fopen(path.c_str(), "wb");
   if (!f) {
     wb.errors.reportFileError(fileErrorFromErrno(errno, path), 0, kExportFn);
     return false;
   }
-  wb.settings.write(kRecipeListSection, "Export Path", folderOf(path));
   bool ok = exportRecipe(wb, f);
   if (std::fclose(f) != 0 && ok) {
     wb.errors.reportFileError(fileErrorFromErrno(errno, "export file"), 0, "RecipeList!exportRecipe");
