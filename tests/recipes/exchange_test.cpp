@@ -405,6 +405,23 @@ TEST(RecipeExchange, FieldStreamReadsQuotesAndLineEnds) {
   while (in.next(f)) got.push_back(f);
   EXPECT_EQ(got, (std::vector<std::string>{"a", "b, \"c\"\r\nd", "e", "f", "g", "open"}));
   EXPECT_TRUE(in.eof());
+
+  // Over a file the text comes in pieces of 64 KiB: a line end, a doubled quote or a field cut
+  // by the edge of a piece reads as in one piece.
+  std::string f1;
+  const std::string tail = "\r\nx,\"q\"\"r\"\r\ny  \r\n\r\n";
+  for (size_t pad = 65530; pad <= 65537; ++pad) {
+    const std::string text = std::string(pad, 'p') + tail;
+    std::FILE* f = std::tmpfile();
+    ASSERT_NE(f, nullptr);
+    std::fwrite(text.data(), 1, text.size(), f);
+    std::rewind(f);
+    ExchangeFieldReader fromFile(f);
+    std::vector<std::string> fields;
+    while (fromFile.next(f1)) fields.push_back(f1);
+    std::fclose(f);
+    EXPECT_EQ(fields, (std::vector<std::string>{std::string(pad, 'p'), "x", "q\"r", "y"})) << pad;
+  }
 }
 
 TEST(RecipeExchange, FileNameHelpers) {
