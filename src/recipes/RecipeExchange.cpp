@@ -19,57 +19,68 @@ namespace zy {
 // ---------------------------------------------------------------------------------------------
 // The field stream.
 
-void ExchangeFieldReader::skipSpace() {
-  while (pos_ < s_.size()) {
-    char c = s_[pos_];
-    if (c == ' ' || c == '\t' || c == '\r' || c == '\n') ++pos_;
-    else break;
+int ExchangeFieldReader::peek() {
+  if (pos_ < buf_.size()) return static_cast<unsigned char>(buf_[pos_]);
+  if (!file_) return -1;
+  buf_.clear();
+  pos_ = 0;
+  char piece[65536];
+  size_t got = std::fread(piece, 1, sizeof piece, file_);
+  if (got == 0) {
+    file_ = nullptr;
+    return -1;
   }
+  buf_.assign(piece, got);
+  return static_cast<unsigned char>(buf_[0]);
+}
+
+void ExchangeFieldReader::skipSpace() {
+  for (int c = peek(); c == ' ' || c == '\t' || c == '\r' || c == '\n'; c = peek()) ++pos_;
 }
 
 bool ExchangeFieldReader::eof() {
   skipSpace();
-  return pos_ >= s_.size();
+  return peek() < 0;
+}
+
+void ExchangeFieldReader::endOfField() {
+  // Past the comma, or past the line end (CR LF counts as one).
+  int c = peek();
+  if (c == ',' || c == '\n') {
+    ++pos_;
+  } else if (c == '\r') {
+    ++pos_;
+    if (peek() == '\n') ++pos_;
+  }
 }
 
 bool ExchangeFieldReader::next(std::string& field) {
   field.clear();
   // Blanks and empty lines before a field are passed over.
   skipSpace();
-  if (pos_ >= s_.size()) return false;
-  auto endOfField = [&]() {
-    // Past the comma, or past the line end (CR LF counts as one).
-    if (pos_ < s_.size() && s_[pos_] == ',') {
-      ++pos_;
-    } else if (pos_ < s_.size() && s_[pos_] == '\r') {
-      ++pos_;
-      if (pos_ < s_.size() && s_[pos_] == '\n') ++pos_;
-    } else if (pos_ < s_.size() && s_[pos_] == '\n') {
-      ++pos_;
-    }
-  };
-  if (s_[pos_] == '"') {
+  int c = peek();
+  if (c < 0) return false;
+  auto delimiter = [](int ch) { return ch < 0 || ch == ',' || ch == '\r' || ch == '\n'; };
+  if (c == '"') {
     ++pos_;
-    while (pos_ < s_.size()) {
-      char c = s_[pos_++];
+    while ((c = peek()) >= 0) {
+      ++pos_;
       if (c == '"') {
-        if (pos_ < s_.size() && s_[pos_] == '"') {  // a doubled quote is one quote character
-          field += '"';
-          ++pos_;
-          continue;
-        }
-        break;
+        if (peek() != '"') break;
+        ++pos_;  // a doubled quote is one quote character
       }
-      field += c;
+      field += static_cast<char>(c);
     }
     // Whatever stands between the closing quote and the delimiter is dropped.
-    while (pos_ < s_.size() && s_[pos_] != ',' && s_[pos_] != '\r' && s_[pos_] != '\n') ++pos_;
+    while (!delimiter(peek())) ++pos_;
     endOfField();
     return true;
   }
-  size_t start = pos_;
-  while (pos_ < s_.size() && s_[pos_] != ',' && s_[pos_] != '\r' && s_[pos_] != '\n') ++pos_;
-  field = rtrim(trimWhite(s_.substr(start, pos_ - start)));
+  while (!delimiter(c = peek())) {
+    field += static_cast<char>(c);
+    ++pos_;
+  }
+  field = rtrim(trimWhite(field));
   endOfField();
   return true;
 }
@@ -544,13 +555,10 @@ ImportOutcome importRecipe(Workbench& wb, std::string_view text) {
 }
 
 ImportOutcome importRecipe(Workbench& wb, std::FILE* file) {
-  std::string text;
-  if (file) {
-    char buf[65536];
-    size_t got;
-    while ((got = std::fread(buf, 1, sizeof buf, file)) > 0) text.append(buf, got);
-  }
-  return importRecipe(wb, text);
+  if (!file) return importRecipe(wb, std::string_view());
+  Reader r{wb, ExchangeFieldReader(file), {}, 0, false, 0, {}};
+  r.run();
+  return r.outcome;
 }
 
 }  // namespace zy

@@ -20,19 +20,24 @@ class Workbench;
 // The field stream of an exchange file. Blanks before a field are skipped; a field that begins
 // with a double quote runs to the closing quote and may span lines (a doubled quote inside is one
 // quote character); any other field runs to the next comma or line end. CR LF, LF and CR all end
-// a line; empty lines are passed over.
+// a line; empty lines are passed over. Over a file, the text is read piece by piece, so that a
+// file of any size holds no more than a piece and the field at hand in memory.
 class ExchangeFieldReader {
  public:
-  explicit ExchangeFieldReader(std::string_view text) : s_(text) {}
+  explicit ExchangeFieldReader(std::string_view text) : buf_(text) {}
+  explicit ExchangeFieldReader(std::FILE* file) : file_(file) {}
   // The next field; false at the end of the text.
   bool next(std::string& field);
   // True when no further field remains.
   bool eof();
 
  private:
+  int peek();  // the next byte, -1 at the end
   void skipSpace();
-  std::string_view s_;
+  void endOfField();
+  std::string buf_;
   size_t pos_ = 0;
+  std::FILE* file_ = nullptr;
 };
 
 // The current recipe as exchange text. Trims the recipe's text fields (as the writer does).
@@ -50,7 +55,7 @@ struct ImportOutcome {
 // refusal of a file without the marker is a message ("Not a Recognized Zythara Recipe File"),
 // and an error inside the reader ends it with what was read so far (itemCount 0).
 ImportOutcome importRecipe(Workbench& wb, std::string_view text);
-// The same over an open file, read to its end.
+// The same over an open file, read piece by piece as the fields are taken.
 ImportOutcome importRecipe(Workbench& wb, std::FILE* file);
 
 // Each comma replaced by "~".

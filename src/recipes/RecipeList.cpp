@@ -323,13 +323,15 @@ std::string RecipeList::logSuffix(Workbench& wb, int recipeNo) {
 
 namespace {
 // The numbering rule in two parts: what stays of the name, and the number put behind it.
-// No value when the number read does not fit a 16-bit whole number.
+// No value when the number read does not fit a 16-bit whole number, nor the number put behind
+// the name (n + 1 is counted in 16 bits too, so 32767 has no successor).
 std::optional<std::pair<std::string, std::string>> numberParts(const std::string& name) {
   std::string reversed(name.rbegin(), name.rend());
   double v = lenientValue(reversed);
   double r = std::nearbyint(v);  // to the even neighbour at a half, as a 16-bit assignment does
   if (!(r >= -32768.0 && r <= 32767.0)) return std::nullopt;
   const int n = static_cast<int>(r);
+  if (n == 32767) return std::nullopt;
   if (n >= 11) return std::make_pair(name.substr(0, name.size() >= 2 ? name.size() - 2 : 0), itos(n + 1));
   if (n >= 1) return std::make_pair(name.substr(0, name.empty() ? 0 : name.size() - 1), itos(n + 1));
   return std::make_pair(name, std::string(" 1"));
@@ -548,8 +550,15 @@ long RecipeList::importRecipeFile(Workbench& wb, const std::string& path) {
     wb.errors.reportFileError(fileErrorFromErrno(errno, path), 0, kImportFn);
     return 0;
   }
-  importRecipe(wb, f);
+  long slot = importAndSave(wb, f);
   std::fclose(f);
+  return slot;
+}
+
+long RecipeList::importAndSave(Workbench& wb, std::FILE* file) {
+  // No test of success: a file the reader refused leaves the new-recipe default, which is
+  // entered and saved like any other recipe.
+  importRecipe(wb, file);
   long slot = findNextRecipeSlot(wb);
   if (slot < 1) return 0;
   wb.recipe.rec.recipeNo = static_cast<int>(slot);
@@ -569,12 +578,13 @@ bool RecipeList::exportRecipeFile(Workbench& wb, const std::string& key, const s
   const RecipeNode* n = tree.find(key);
   if (!n || !n->isLeaf()) return false;
   if (!loadRecipe(wb, recipeNumber(key))) return false;
+  // The dialog's OK: the folder is remembered before the file is opened.
+  wb.settings.write(kRecipeListSection, "Export Path", folderOf(path));
   std::FILE* f = std::fopen(path.c_str(), "wb");
   if (!f) {
     wb.errors.reportFileError(fileErrorFromErrno(errno, path), 0, kExportFn);
     return false;
   }
-  wb.settings.write(kRecipeListSection, "Export Path", folderOf(path));
   bool ok = exportRecipe(wb, f);
   if (std::fclose(f) != 0 && ok) {
     wb.errors.reportFileError(fileErrorFromErrno(errno, "export file"), 0, "RecipeList!exportRecipe");

@@ -9,6 +9,7 @@
 // text, so a date prefix or a batch log suffix never takes part in the check.
 #include <array>
 #include <cstdint>
+#include <cstdio>
 #include <functional>
 #include <map>
 #include <memory>
@@ -167,6 +168,10 @@ class RecipeList {
   // addToRecipeList (selected), save; remembers the folder in "Import Path". Returns the new
   // record number, 0 when the file could not be opened or no slot was found.
   long importRecipeFile(Workbench& wb, const std::string& path);
+  // The part of that sequence behind the file dialog, over a file open for reading (also run for
+  // the file named on the command line at start-up). Returns the new record number, 0 when no
+  // slot was found or the save failed.
+  long importAndSave(Workbench& wb, std::FILE* file);
   // The proposed export file name of the current recipe, with the extension .zyr.
   std::string proposedExportName(const Workbench& wb) const;
   // Export of the leaf `key` to `path`: loadRecipe, exportRecipe; remembers "Export Path".

@@ -229,21 +229,55 @@ TEST(RecipeExchange, RoundTripKeepsItsDocumentedDifferences) {
   EXPECT_DOUBLE_EQ(wb.recipe.items[1].unitCost, 0);
 }
 
-TEST(RecipeExchange, CommasInUnescapedValuesCutTheField) {
+TEST(RecipeExchange, UnescapedValuesTildesAndSubstitutesDoNotSurviveTheTrip) {
   Bench b;
   Workbench& wb = *b.wb;
+  // Name, style, code and label are written with their commas: the field ends at the comma and
+  // the value loses its last character; the rest, without "=", is ignored.
   newRecipeRecord(wb);
-  wb.recipe.rec.recipeName = "Smith, Jones Ale";
-  wb.recipe.rec.beerStyle = "Brown, Nut";
-  wb.recipe.rec.mashType = 0;
-  wb.recipe.rec.mashStepTime[0] = 60;  // no mash: steps are not written
-  wb.recipe.rec.spargeVolume = 4;
+  RecipeRecord& r = wb.recipe.rec;
+  r.recipeName = "Smith, Jones Ale";
+  r.beerStyle = "Brown, Nut";
+  r.idCode = "AB,1";
+  r.labelName = "Big, Bold";
+  r.unitType = IMPERIAL_MEASURES;
+  r.volumeUnits = IMPERIAL_GAL_CONST;
+  r.boilVolume = 6.5;
+  r.mashType = 0;
+  r.mashStepTime[0] = 60;  // no mash: steps and sparge are not written
+  r.spargeVolume = 4;
   importRecipe(wb, exportRecipeText(wb));
-  EXPECT_EQ(wb.recipe.rec.recipeName, "Smit");
-  EXPECT_EQ(wb.recipe.rec.beerStyle, "Brow");
-  EXPECT_DOUBLE_EQ(wb.recipe.rec.mashStepTime[0], 0);
-  EXPECT_DOUBLE_EQ(wb.recipe.rec.spargeVolume, 0);
-  EXPECT_EQ(wb.recipe.rec.volumeUnits, US_GAL_CONST);
+  EXPECT_EQ(r.recipeName, "Smit");
+  EXPECT_EQ(r.beerStyle, "Brow");
+  EXPECT_EQ(r.idCode, "A");
+  EXPECT_EQ(r.labelName, "Bi");
+  EXPECT_DOUBLE_EQ(r.mashStepTime[0], 0);
+  EXPECT_DOUBLE_EQ(r.spargeVolume, 0);
+  // An Imperial recipe reads its unit name as the code 0: US measures in US Gallons.
+  EXPECT_EQ(r.unitType, US_MEASURES);
+  EXPECT_EQ(r.volumeUnits, US_GAL_CONST);
+  EXPECT_DOUBLE_EQ(r.boilVolume, 6.5);
+
+  // A "~" anywhere comes back as a comma; an efficiency or rate of 0 or below is written as
+  // 100 and 0.40 and read back so.
+  newRecipeRecord(wb);
+  r.recipeName = "Tilde~Ale";
+  r.mashType = 2;
+  r.mashEfficiency = -5;
+  r.mashWaterRate = -1;
+  r.spargeRate = -2;
+  r.mashStepTime[0] = 60;
+  r.mashStepComment[0] = "hold~stir";
+  const std::string text = exportRecipeText(wb);
+  EXPECT_NE(text.find("<Recipe> Type=\"Ale\", Name=\"Tilde~Ale\", BoilTime=60,"), std::string::npos);
+  EXPECT_NE(text.find("<Mash> Type=\"Infusion\", Efficiency=100, Rate=0.40\r\n"), std::string::npos);
+  EXPECT_NE(text.find("<Sparge> Volume=0.0, Units=\"US Gallons\", Temp=0, Rate=0.40\r\n"), std::string::npos);
+  importRecipe(wb, text);
+  EXPECT_EQ(r.recipeName, "Tilde,Ale");
+  EXPECT_EQ(r.mashStepComment[0], "hold,stir");
+  EXPECT_DOUBLE_EQ(r.mashEfficiency, 100);
+  EXPECT_DOUBLE_EQ(r.mashWaterRate, 0.4);
+  EXPECT_DOUBLE_EQ(r.spargeRate, 0.4);
 }
 
 ImportOutcome readText(Bench& b, const std::string& body) {
@@ -371,6 +405,23 @@ TEST(RecipeExchange, FieldStreamReadsQuotesAndLineEnds) {
   while (in.next(f)) got.push_back(f);
   EXPECT_EQ(got, (std::vector<std::string>{"a", "b, \"c\"\r\nd", "e", "f", "g", "open"}));
   EXPECT_TRUE(in.eof());
+
+  // Over a file the text comes in pieces of 64 KiB: a line end, a doubled quote or a field cut
+  // by the edge of a piece reads as in one piece.
+  std::string f1;
+  const std::string tail = "\r\nx,\"q\"\"r\"\r\ny  \r\n\r\n";
+  for (size_t pad = 65530; pad <= 65537; ++pad) {
+    const std::string text = std::string(pad, 'p') + tail;
+    std::FILE* f = std::tmpfile();
+    ASSERT_NE(f, nullptr);
+    std::fwrite(text.data(), 1, text.size(), f);
+    std::rewind(f);
+    ExchangeFieldReader fromFile(f);
+    std::vector<std::string> fields;
+    while (fromFile.next(f1)) fields.push_back(f1);
+    std::fclose(f);
+    EXPECT_EQ(fields, (std::vector<std::string>{std::string(pad, 'p'), "x", "q\"r", "y"})) << pad;
+  }
 }
 
 TEST(RecipeExchange, FileNameHelpers) {

@@ -61,6 +61,9 @@ TEST(RecipeList, NumberingRuleReadsTheDigitsBackwards) {
   EXPECT_EQ(num(""), " 1");
   EXPECT_EQ(num("Beer 5-"), "Beer 5- 1");   // reversed "-5" is below 1
   EXPECT_EQ(num("Amber 99999"), "<overflow>");  // no 16-bit number
+  EXPECT_EQ(num("Amber 66723"), "Amber 66732767");
+  EXPECT_EQ(num("Amber 76723"), "<overflow>");  // 32767 + 1 does not fit either
+  EXPECT_EQ(num("Amber 5.2"), "Amber 5.3");      // 2.5 read backwards goes to the even neighbour 2
 }
 
 TEST(RecipeList, DoubledNamesAreNumberedByTagWhileTheFileKeepsItsName) {
@@ -556,6 +559,60 @@ TEST(RecipeList, ImportSequenceNumbersSavesAndRemembersTheFolder) {
   EXPECT_EQ(list.tree.find("R4")->tag, "A Beer Recipe 1");
   ASSERT_TRUE(loadRecipe(wb, 4));
   EXPECT_EQ(trim(wb.recipe.rec.recipeName), "A Beer Recipe 1");
+}
+
+TEST(RecipeList, ImportOfAnOverfullHugeOrBinaryFileLeavesTheStoredRecipesSound) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  newRecipeRecord(wb);
+  wb.recipe.rec.recipeNo = 1;
+  wb.recipe.rec.recipeName = "Stock Ale";
+  wb.recipe.rec.itemCount = 2;
+  wb.recipe.items[0].itemKind = KIND_MALT;
+  wb.recipe.items[0].itemName = "Pale";
+  wb.recipe.items[1].itemKind = KIND_HOPS;
+  wb.recipe.items[1].itemName = "Fuggle";
+  wb.recipe.comment = "keep me";
+  ASSERT_TRUE(saveCurrentRecipe(wb));
+  const std::string itemsBefore = readFile(wb.folder.dataFile(kRecipeItemsFile));
+  const std::string commentsBefore = readFile(wb.folder.dataFile(kCommentFile));
+  RecipeList& list = wb.recipeList;
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
+
+  // Thousands of items behind a label of a million characters and a line of a million fields:
+  // the 26th item ends the reader, and the recipe is stored without items.
+  std::string text = "<Recipe_Format_1.0>\r\n<Recipe> Type=\"Ale\", Name=\"Huge\", Label=\"" +
+                     std::string(1 << 20, 'x') + "\"\r\n<Color> Value=7" + std::string(1 << 20, ',') + "\r\n";
+  for (int i = 0; i < 5000; ++i) text += "<Malt> Type=\"Grain " + itos(i) + "\", Quantity=1, Units=\"Lbs\"\r\n";
+  text += "<End_Recipe_Format>\r\n";
+  const std::string file = b.dir.file("huge.zyr");
+  test::writeFile(file, text);
+  EXPECT_EQ(list.importRecipeFile(wb, file), 2);
+  EXPECT_TRUE(b.prompter.shown.empty());
+
+  // Random bytes: refused, and the default recipe goes in as the sequence always does.
+  std::mt19937 rng(7);
+  std::string bytes;
+  for (int i = 0; i < 100000; ++i) bytes += static_cast<char>(rng() % 256);
+  test::writeFile(file, bytes);
+  EXPECT_EQ(list.importRecipeFile(wb, file), 3);
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].text, "Not a Recognized Zythara Recipe File");
+
+  EXPECT_EQ(readFile(wb.folder.dataFile(kRecipeItemsFile)), itemsBefore);
+  EXPECT_EQ(readFile(wb.folder.dataFile(kCommentFile)), commentsBefore);
+  ASSERT_TRUE(loadRecipe(wb, 2));
+  EXPECT_EQ(trim(wb.recipe.rec.recipeName), "Huge");
+  EXPECT_EQ(trim(wb.recipe.rec.labelName), std::string(35, 'x'));
+  EXPECT_DOUBLE_EQ(wb.recipe.rec.color, 7);
+  EXPECT_EQ(wb.recipe.rec.itemCount, 0);
+  ASSERT_TRUE(loadRecipe(wb, 1));
+  EXPECT_EQ(trim(wb.recipe.rec.recipeName), "Stock Ale");
+  ASSERT_EQ(wb.recipe.rec.itemCount, 2);
+  EXPECT_EQ(trim(wb.recipe.items[1].itemName), "Fuggle");
+  EXPECT_EQ(wb.recipe.comment, "keep me");
+  EXPECT_EQ(shownTree(list), (std::vector<std::string>{" Sorted By Name: 3", "  A Beer Recipe", "  Huge",
+                                                       "  Stock Ale"}));
 }
 
 TEST(RecipeList, ExportSequenceProposesANameAndWritesTheFile) {
