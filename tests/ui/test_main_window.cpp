@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -83,6 +84,25 @@ TEST(MainWindow, TopicsHistoryAndGoBack) {
   EXPECT_EQ(b.w->lblTitle->text(), "Yeast");
   EXPECT_EQ(b.texts(TreeHistory).size(), 3);
   EXPECT_TRUE(b.w->cmdGoBack->isEnabled());
+}
+
+TEST(MainWindow, SwitchingTabsShowsNoTopic) {
+  // The focus passing to a tree that has no current node must not open its first topic.
+  MainBench b;
+  b.w->activateWindow();
+  clickItem(b.tree(0), b.tree(0)->topLevelItem(1));  // Hops; the list has the focus
+  ASSERT_EQ(b.texts(TreeHistory), QStringList({"Hops", "Barley Malt"}));
+  for (int tab : {TreeMiniBooks, TreeHistory, TreeAlsoSee, TreeSearch, TreeAllTopics}) {
+    QTest::mouseClick(b.w->tabTopics, Qt::LeftButton, Qt::NoModifier, b.w->tabTopics->tabRect(tab).center());
+    b.w->tvwTopics[static_cast<size_t>(tab)]->setFocus();
+    QApplication::processEvents();
+    EXPECT_EQ(b.w->lblTitle->text(), "Hops") << tab;
+  }
+  EXPECT_EQ(b.texts(TreeHistory), QStringList({"Hops", "Barley Malt"}));
+  EXPECT_EQ(b.tree(TreeHistory)->currentItem()->text(0), "Hops");
+  // The arrow keys still walk the list.
+  QTest::keyClick(b.tree(0), Qt::Key_Down);
+  EXPECT_EQ(b.w->lblTitle->text(), "Mashing");
 }
 
 TEST(MainWindow, AlsoSeeListAndOriginalTopic) {
