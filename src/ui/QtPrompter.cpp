@@ -39,7 +39,8 @@ Answer QtPrompter::message(const std::string& text, const std::string& title, Ic
                            Answer defaultAnswer) {
   QMessageBox box(parent_);
   box.setWindowTitle(qs(title));
-  box.setText(qs(text));
+  // The messages break their lines with carriage return and line feed; the box wants "\n".
+  box.setText(qs(replaceAll(text, "\r\n", "\n")));
   switch (icon) {
     case Icon::Information: box.setIcon(QMessageBox::Information); break;
     case Icon::Warning: box.setIcon(QMessageBox::Warning); break;
