@@ -29,7 +29,12 @@ class dlgSelectFolder : public QDialog {
 
  private:
   void newFolder();
+  // Brings the proposed folder into sight as the folders above it are read, until the user
+  // turns to the tree or the box.
+  void revealFolder();
+  bool eventFilter(QObject* watched, QEvent* event) override;
   QFileSystemModel* model_ = nullptr;
+  QString revealing_;  // the folder to show while the tree is still being read
 };
 
 }  // namespace zy
