@@ -508,7 +508,8 @@ bool frmProperties::eventFilter(QObject* watched, QEvent* event) {
     const QString t = ke->text();
     if (t.size() != 1 || !PropertiesModel::isNumericField(name)) return false;
     const QChar c = t[0];
-    if (c.unicode() < 32 && c.unicode() != 8) return false;  // Enter, Tab, Escape go their way
+    // Enter, Tab, Escape and Delete (127 on some keyboards) go their way.
+    if ((c.unicode() < 32 && c.unicode() != 8) || c.unicode() == 127) return false;
     const int key = c.unicode() < 256 ? c.unicode() : 'x';
     if (model.filterKey(name, key, &wb_.prompter) == 0) return true;  // swallowed, beeped
     return false;
