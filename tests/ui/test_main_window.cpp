@@ -25,6 +25,8 @@
 #include "ui/QtHttpFetch.h"
 #include "ui/UiSupport.h"
 #include "ui/dlgSelectFolder.h"
+#include "ui/QtPrompter.h"
+#include "ui/frmAbout.h"
 #include "ui/frmHelp.h"
 #include "ui/frmMain.h"
 
@@ -193,6 +195,20 @@ TEST(MainWindow, MenusAndToolbar) {
   b.w->tbRecipes->trigger();
   EXPECT_EQ(opened, 1);
   EXPECT_EQ(b.w->mnuHelpAbout->text(), "&About Zythara 2");
+  // The about box: the version text and the legal line.
+  QString aboutTitle, aboutVersion, aboutLegal;
+  whenModalOpens([&](QWidget* box) {
+    auto* about = qobject_cast<frmAbout*>(box);
+    ASSERT_NE(about, nullptr);
+    aboutTitle = about->windowTitle();
+    aboutVersion = about->lblVersion->text();
+    aboutLegal = about->lblLegal->text().replace(QChar(0x00A0), ' ');
+    about->accept();
+  });
+  b.w->mnuHelpAbout->trigger();
+  EXPECT_EQ(aboutTitle, "About Zythara 2");
+  EXPECT_EQ(aboutVersion, QString::fromStdString("Version " + versionText()));
+  EXPECT_EQ(aboutLegal, qs(legalLine()));
   b.w->mnuViewToolbar->trigger();
   EXPECT_FALSE(b.w->tbToolBar->isVisible());
   b.w->mnuViewStatusBar->trigger();

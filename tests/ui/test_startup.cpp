@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
@@ -171,6 +172,8 @@ TEST(Startup, ClickOnTheSplashEndsTheWaitAndAMissingHelpFileWarnsOnce) {
   SubMain start(*b.wb);
   start.splashShown = [](frmSplash& s) {
     EXPECT_TRUE(s.isVisible());
+    EXPECT_EQ(s.findChild<QLabel*>("lblTitle")->text(), "Homebrewing Encyclopedia");
+    EXPECT_EQ(s.findChild<QLabel*>("lblVersion")->text(), QString::fromStdString("Version " + versionText()));
     QTimer::singleShot(300, &s, [&s] { QTest::mouseClick(&s, Qt::LeftButton); });
   };
   frmMain* w = start.run("", [](frmMain& m) { m.quitOnClose = false; });
