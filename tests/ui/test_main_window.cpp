@@ -102,8 +102,12 @@ TEST(MainWindow, SwitchingTabsShowsNoTopic) {
   }
   EXPECT_EQ(b.texts(TreeHistory), QStringList({"Hops", "Barley Malt"}));
   EXPECT_EQ(b.tree(TreeHistory)->currentItem()->text(0), "Hops");
-  // The arrow keys still walk the list.
+  // The arrow keys still walk the list, and a later click on the node they reached shows it.
   QTest::keyClick(b.tree(0), Qt::Key_Down);
+  EXPECT_EQ(b.w->lblTitle->text(), "Mashing");
+  b.w->cmdGoBack->click();
+  EXPECT_EQ(b.w->lblTitle->text(), "Hops");
+  clickItem(b.tree(0), b.tree(0)->topLevelItem(2));
   EXPECT_EQ(b.w->lblTitle->text(), "Mashing");
 }
 
