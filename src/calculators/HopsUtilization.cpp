@@ -55,6 +55,9 @@ double HopsUtilization::lookupUtilization(double minutes) const {
   if (minutes >= 90) {
     u = UtilTable[kUtilRows];
   } else {
+    // Minutes from 5k up to 5k + 5 lie on the segment that ends at row k + 1, which starts at
+    // UtilBase[k + 1] (row k, or 0 before row 1): on the Rager curve 2.5 minutes is 2.5 percent,
+    // 5 minutes row 1's 5.0, and 7.5 minutes halfway from row 1 to row 2, 5.5.
     int k = static_cast<int>(minutes / 5.0);  // 0..17
     if (k < 0) k = 0;
     if (k > kUtilRows - 1) k = kUtilRows - 1;

@@ -59,7 +59,10 @@ void HopsUtilizationEditor::load(const HopsUtilization& h) {
 void HopsUtilizationEditor::editCell(int row, const std::string& text) {
   if (!validRow(row)) return;
   rememberedValue = cellValue(row);
-  cells[static_cast<size_t>(row)] = text;
+  // The grid takes the editor's text at one decimal ("12.34" enters as 12.3); a text that is no
+  // number goes in as typed and reads as 0.
+  const auto typed = strictValue(text);
+  cells[static_cast<size_t>(row)] = typed && std::isfinite(*typed) ? formatNumber(*typed, "0.0") : text;
   applyUtilEdit(row);
 }
 

@@ -34,7 +34,7 @@ class HopsUtilizationEditor {
   // Minutes column text of row 1..18: "5" ... "90".
   static std::string minutesText(int row);
   // Editing a cell as the cell editor does: remembers the cell's previous value, puts the text
-  // in and commits it through applyUtilEdit.
+  // in formatted "0.0" and commits it through applyUtilEdit.
   void editCell(int row, const std::string& text);
   // Row 1..18: clamps the cell to 0..40, shows it "#0.0", marks the curve custom (unless the
   // remembered value is the -1.0 sentinel of a preset), and keeps the curve from falling on

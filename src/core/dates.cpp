@@ -69,7 +69,8 @@ double serialFromCivil(int year, int month, int day, int hour, int minute, int s
 
 CivilDate civilFromSerial(double serial) {
   CivilDate c;
-  if (!std::isfinite(serial)) serial = 0;
+  // Dates run from the year 100 to 9999; a serial outside them (a damaged record) shows as day 0.
+  if (!std::isfinite(serial) || serial < -657434.0 || serial >= 2958466.0) serial = 0;
   double whole = std::trunc(serial);
   double frac = std::fabs(serial - whole);
   long long secs = std::llround(frac * 86400.0);

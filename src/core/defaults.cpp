@@ -127,6 +127,9 @@ const std::vector<DefaultKey>& defaultKeys() {
 }
 
 void loadDefaults(const SettingsStore& store, Defaults& d, ErrorLog& errors) {
+  // The log names the settings file, so that a hand-edited value can be found again.
+  const auto* file = dynamic_cast<const FileSettingsStore*>(&store);
+  const std::string where = file ? file->path() : std::string();
   for (const DefaultKey& k : defaultKeys()) {
     std::string v = store.read(kDefaultsSection, k.key, k.fallback);
     switch (k.kind) {
@@ -135,7 +138,7 @@ void loadDefaults(const SettingsStore& store, Defaults& d, ErrorLog& errors) {
         auto n = strictInt16(v);
         if (!n) {
           auto isNumber = strictValue(v);
-          errors.reportError(isNumber ? ERR_OVERFLOW : ERR_TYPE_MISMATCH, 0, "frmMain!loadDefaults", "",
+          errors.reportError(isNumber ? ERR_OVERFLOW : ERR_TYPE_MISMATCH, 0, "frmMain!loadDefaults", where,
                              isNumber ? "Overflow" : "Type mismatch");
           break;
         }
@@ -145,7 +148,7 @@ void loadDefaults(const SettingsStore& store, Defaults& d, ErrorLog& errors) {
       case DefaultKind::Double: {
         auto n = strictValue(v);
         if (!n) {
-          errors.reportError(ERR_TYPE_MISMATCH, 0, "frmMain!loadDefaults", "", "Type mismatch");
+          errors.reportError(ERR_TYPE_MISMATCH, 0, "frmMain!loadDefaults", where, "Type mismatch");
           break;
         }
         d.*k.number = *n;

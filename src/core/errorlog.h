@@ -35,6 +35,7 @@ constexpr int ERR_TYPE_MISMATCH = 13;
 constexpr int ERR_OVERFLOW = 6;
 constexpr int ERR_DIVISION_BY_ZERO = 11;
 constexpr int ERR_SUBSCRIPT = 9;
+constexpr int ERR_BAD_RECORD_NUMBER = 63;
 
 // Thrown by the termination hook of tests (and of anything that must unwind instead of exiting).
 struct Terminated : std::exception {

@@ -74,9 +74,15 @@ FileError fileErrorFromErrno(int err, const std::string& path) {
 
 RecordFile::RecordFile(const std::string& path, size_t recordLength) : path_(path), len_(recordLength) {
   f_ = std::fopen(path.c_str(), "r+b");
-  if (!f_ && errno == ENOENT) f_ = std::fopen(path.c_str(), "w+b");
-  if (!f_) f_ = std::fopen(path.c_str(), "rb");  // read-only media: reading still works
-  if (!f_) throw fileErrorFromErrno(errno, path);
+  int err = errno;
+  if (!f_ && err == ENOENT) {
+    f_ = std::fopen(path.c_str(), "w+b");  // a missing file is created empty
+    err = errno;
+  } else if (!f_) {
+    f_ = std::fopen(path.c_str(), "rb");  // read-only media: reading still works
+    readOnly_ = f_ != nullptr;
+  }
+  if (!f_) throw fileErrorFromErrno(err, path);
   struct stat st{};
   if (fstat(fileno(f_), &st) == 0 && S_ISDIR(st.st_mode)) {
     std::fclose(f_);
@@ -113,6 +119,7 @@ bool RecordFile::read(long n, std::string& rec) {
 
 void RecordFile::write(long n, std::string_view rec) {
   if (n < 1 || n > count_ + 1) throw FileError{63, "Bad record number", path_};
+  if (readOnly_) throw FileError{70, "Permission denied", path_};
   std::string r(rec.substr(0, len_));
   r.resize(len_, ' ');
   if (std::fseek(f_, static_cast<long>((n - 1) * static_cast<long>(len_)), SEEK_SET) != 0 ||

@@ -52,7 +52,8 @@ class RecordFile {
   const std::string& path() const { return path_; }
   // Reads record n (1-based) into rec; false beyond the last whole record.
   bool read(long n, std::string& rec);
-  // Writes record n (1-based); n may be count()+1 to append. Throws FileError.
+  // Writes record n (1-based); n may be count()+1 to append. Throws FileError (70 on a file that
+  // could be opened for reading only).
   void write(long n, std::string_view rec);
   void flush();
 
@@ -67,6 +68,7 @@ class RecordFile {
   long bufFirst_ = 0;
   long bufCount_ = 0;
   bool lastWasWrite_ = false;
+  bool readOnly_ = false;
 };
 
 }  // namespace zy

@@ -10,6 +10,38 @@ namespace zy {
 
 FileSettingsStore::FileSettingsStore(std::string path) : path_(std::move(path)) { load(); }
 
+namespace {
+// In the file a value keeps its line breaks and backslashes escaped, as \n, \r and \\.
+std::string escapeValue(const std::string& v) {
+  std::string out;
+  out.reserve(v.size());
+  for (char c : v) {
+    if (c == '\\') out += "\\\\";
+    else if (c == '\n') out += "\\n";
+    else if (c == '\r') out += "\\r";
+    else out += c;
+  }
+  return out;
+}
+
+std::string unescapeValue(const std::string& v) {
+  std::string out;
+  out.reserve(v.size());
+  for (size_t i = 0; i < v.size(); ++i) {
+    if (v[i] == '\\' && i + 1 < v.size()) {
+      char n = v[i + 1];
+      if (n == 'n' || n == 'r' || n == '\\') {
+        out += n == 'n' ? '\n' : n == 'r' ? '\r' : '\\';
+        ++i;
+        continue;
+      }
+    }
+    out += v[i];
+  }
+  return out;
+}
+}  // namespace
+
 void FileSettingsStore::load() {
   std::FILE* f = std::fopen(path_.c_str(), "rb");
   if (!f) return;
@@ -18,29 +50,34 @@ void FileSettingsStore::load() {
   size_t n;
   while ((n = std::fread(buf, 1, sizeof buf, f)) > 0) all.append(buf, n);
   std::fclose(f);
+  // A file saved by a text editor may start with a UTF-8 byte order mark.
+  if (startsWith(all, "\xEF\xBB\xBF")) all.erase(0, 3);
   std::string section;
   for (std::string lineText : split(all, '\n')) {
     if (!lineText.empty() && lineText.back() == '\r') lineText.pop_back();
-    if (lineText.empty() || lineText[0] == ';' || lineText[0] == '#') continue;
-    if (lineText[0] == '[') {
-      size_t e = lineText.find(']');
-      section = lineText.substr(1, e == std::string::npos ? std::string::npos : e - 1);
+    size_t first = lineText.find_first_not_of(" \t");
+    if (first == std::string::npos || lineText[first] == ';' || lineText[first] == '#') continue;
+    if (lineText[first] == '[') {
+      size_t e = lineText.find(']', first);
+      section = trim(lineText.substr(first + 1, e == std::string::npos ? std::string::npos : e - first - 1));
       continue;
     }
     size_t eq = lineText.find('=');
     if (eq == std::string::npos || section.empty()) continue;
-    std::string key = lineText.substr(0, eq);
-    std::string value = lineText.substr(eq + 1);
-    // Line breaks inside a value are kept escaped.
-    value = replaceAll(replaceAll(replaceAll(value, "\\n", "\n"), "\\r", "\r"), "\\\\", "\\");
-    bool stored = false;
-    for (auto& [sec, keys] : data_) {
-      if (!iequals(sec, section)) continue;
-      keys.emplace_back(key, value);
-      stored = true;
-      break;
+    std::string key = trimWhite(lineText.substr(0, eq));
+    if (key.empty()) continue;
+    std::string value = unescapeValue(lineText.substr(eq + 1));
+    // A key given twice (a hand-edited file) counts once, with its last value.
+    auto sec = data_.begin();
+    while (sec != data_.end() && !iequals(sec->first, section)) ++sec;
+    if (sec == data_.end()) {
+      data_.push_back({section, {}});
+      sec = data_.end() - 1;
     }
-    if (!stored) data_.push_back({section, {{key, value}}});
+    auto kv = sec->second.begin();
+    while (kv != sec->second.end() && !iequals(kv->first, key)) ++kv;
+    if (kv == sec->second.end()) sec->second.emplace_back(key, value);
+    else kv->second = value;
   }
 }
 
@@ -48,8 +85,8 @@ std::string FileSettingsStore::read(const std::string& section, const std::strin
                                     const std::string& fallback) const {
   for (const auto& [sec, keys] : data_) {
     if (!iequals(sec, section)) continue;
-    for (auto it = keys.rbegin(); it != keys.rend(); ++it)
-      if (iequals(it->first, key)) return it->second;
+    for (const auto& kv : keys)
+      if (iequals(kv.first, key)) return kv.second;
   }
   return fallback;
 }
@@ -79,17 +116,15 @@ void FileSettingsStore::save() const {
   fs::path p(path_);
   if (p.has_parent_path()) fs::create_directories(p.parent_path(), ec);
   std::string tmp = path_ + ".new";
+  std::string text;
+  for (const auto& [sec, keys] : data_) {
+    text += "[" + sec + "]\n";
+    for (const auto& [k, v] : keys) text += k + "=" + escapeValue(v) + "\n";
+    text += "\n";
+  }
   std::FILE* f = std::fopen(tmp.c_str(), "wb");
   if (!f) return;  // an unwritable settings file loses only preferences
-  bool ok = true;
-  for (const auto& [sec, keys] : data_) {
-    ok = ok && std::fprintf(f, "[%s]\n", sec.c_str()) > 0;
-    for (const auto& [k, v] : keys) {
-      std::string esc = replaceAll(replaceAll(replaceAll(v, "\\", "\\\\"), "\n", "\\n"), "\r", "\\r");
-      ok = ok && std::fprintf(f, "%s=%s\n", k.c_str(), esc.c_str()) >= 0;
-    }
-    ok = ok && std::fprintf(f, "\n") > 0;
-  }
+  bool ok = std::fwrite(text.data(), 1, text.size(), f) == text.size();
   ok = (std::fclose(f) == 0) && ok;
   if (ok) fs::rename(tmp, path_, ec);
   else fs::remove(tmp, ec);
@@ -108,7 +143,9 @@ void MemorySettingsStore::write(const std::string& section, const std::string& k
 
 long readLong(const SettingsStore& s, const std::string& section, const std::string& key, long fallback) {
   auto v = strictValue(s.read(section, key, ""));
-  return v ? static_cast<long>(*v) : fallback;
+  // A hand-edited number too big for a window position is no position at all.
+  if (!v || *v < -2147483648.0 || *v > 2147483647.0) return fallback;
+  return static_cast<long>(*v);
 }
 
 double readDouble(const SettingsStore& s, const std::string& section, const std::string& key, double fallback) {

@@ -15,8 +15,11 @@ class SettingsStore {
 };
 
 // An INI-style text file, one "[Section]" head per section and "Key=Value" lines, kept in
-// Windows-1252. Keys are matched without regard to case. Each write rewrites the file (through a
-// temporary file, so that a failed write never leaves half a file).
+// Windows-1252; line breaks and backslashes in a value are written as \n, \r and \\. Sections
+// and keys are matched without regard to case. Reading forgives a hand-edited file: blanks around
+// heads and keys, comment lines (";" or "#"), a byte order mark, and a key given twice (the last
+// value counts). Each write rewrites the file (through a temporary file, so that a failed write
+// never leaves half a file).
 class FileSettingsStore : public SettingsStore {
  public:
   explicit FileSettingsStore(std::string path);

@@ -163,8 +163,9 @@ void RecipeEditor::populateRecipeForm() {
 
   // 4. Mash efficiency. The check takes the value for a fraction while the field holds percent,
   // so every stored efficiency above 0.95 opens as the default; the recipe still counts as
-  // unchanged.
-  if (rec.mashType != 0 && (rec.mashEfficiency < 0.5 || rec.mashEfficiency > 0.95))
+  // unchanged. Written as "not from 0.5 to 0.95" so that a field holding no number at all (a
+  // damaged record) takes the default as well.
+  if (rec.mashType != 0 && !(rec.mashEfficiency >= 0.5 && rec.mashEfficiency <= 0.95))
     rec.mashEfficiency = wb.defaults.mashEff;
   refreshMashLabels();
 
@@ -480,6 +481,11 @@ void RecipeEditor::setUnits(int index) {
   if (index < 0 || index >= static_cast<int>(list.size())) return;
   IngredientRow& row = sheet.grid.row(selectedRow);
   const int old = row.unit;
+  // Choosing the unit the row has already is no change: the quantity is not rounded again.
+  if (index == old) {
+    strip.cboUnits = index;
+    return;
+  }
   strip.cboUnits = index;
   row.cells[COL_UNITS] = list[static_cast<size_t>(index)];
   row.unit = index;

@@ -24,6 +24,33 @@ std::unique_ptr<RecordFile> openRecords(Workbench& wb, const char* name, size_t 
     return nullptr;
   }
 }
+// Hangs `pieces` records on recipe `no` in a file of records owned by recipes: from record 1 on,
+// each free record (recipeNo 0) or one of the recipe's own takes the next piece, so free records
+// are reused from the front; once the pieces are placed, the recipe's further records are freed;
+// pieces left when the file ends are appended. `line` follows the record at hand for a report.
+void rewriteOwnedRecords(RecordFile& f, int no, int pieces, long& line,
+                         const std::function<std::string(int)>& piece) {
+  std::string buf;
+  int next = 0;
+  const long total = f.count();
+  for (long n = 1; n <= total; ++n) {
+    line = n;
+    f.read(n, buf);
+    const int owner = getI16(buf, 2);
+    if (owner != 0 && owner != no) continue;
+    if (next < pieces) {
+      f.write(n, piece(next++));
+    } else if (owner == no) {
+      putI16(buf, 2, 0);
+      f.write(n, buf);
+    }
+  }
+  while (next < pieces) {
+    line = f.count() + 1;
+    f.write(f.count() + 1, piece(next++));
+  }
+  f.flush();
+}
 }  // namespace
 
 int commentCountFor(size_t commentLength) {
@@ -84,7 +111,7 @@ bool saveCurrentRecipe(Workbench& wb) {
   rec.controlEnd = kControlEnd;
   const int no = rec.recipeNo;
   if (no < 1) {
-    wb.errors.reportError(ERR_SUBSCRIPT, no, kSaveFn, wb.folder.dataFile(kRecipeFile), "Bad record number");
+    wb.errors.reportError(ERR_BAD_RECORD_NUMBER, no, kSaveFn, wb.folder.dataFile(kRecipeFile), "Bad record number");
     return false;
   }
   long line = 0;
@@ -100,66 +127,26 @@ bool saveCurrentRecipe(Workbench& wb) {
     {
       RecordFile f(wb.folder.dataFile(kRecipeItemsFile), RecipeItemRecord::kLength);
       const int count = std::max(0, std::min(rec.itemCount, kMaxRecipeItems));
-      int next = 0;
-      std::string buf;
-      const long total = f.count();
-      for (long n = 1; n <= total; ++n) {
-        line = n;
-        f.read(n, buf);
-        int owner = getI16(buf, 2);
-        if (owner != 0 && owner != no) continue;
-        if (next < count) {
-          RecipeItemRecord item = cur.items[next++];
-          item.controlStart = kControlStart;
-          item.controlEnd = kControlEnd;
-          item.recipeNo = no;
-          f.write(n, item.encode());
-        } else if (owner == no) {
-          putI16(buf, 2, 0);
-          f.write(n, buf);
-        }
-      }
-      while (next < count) {
-        RecipeItemRecord item = cur.items[next++];
+      rewriteOwnedRecords(f, no, count, line, [&](int k) {
+        RecipeItemRecord item = cur.items[k];
         item.controlStart = kControlStart;
         item.controlEnd = kControlEnd;
         item.recipeNo = no;
-        line = f.count() + 1;
-        f.write(f.count() + 1, item.encode());
-      }
-      f.flush();
+        return item.encode();
+      });
     }
     if (!(commentLength == 0 && oldCommentCount == 0)) {
       RecordFile f(wb.folder.dataFile(kCommentFile), RecipeCommentRecord::kLength);
+      // commentCount is counted again as the pieces are written.
       rec.commentCount = 0;
-      size_t pos = 0;
-      std::string buf;
-      const long total = f.count();
-      auto nextPiece = [&]() {
+      const int pieces = static_cast<int>((commentLength + kCommentPiece - 1) / kCommentPiece);
+      rewriteOwnedRecords(f, no, pieces, line, [&](int k) {
         RecipeCommentRecord c;
         c.recipeNo = no;
-        c.commentText = fixedText(cur.comment.substr(pos, kCommentPiece), kCommentPiece);
-        pos += kCommentPiece;
+        c.commentText = fixedText(cur.comment.substr(k * kCommentPiece, kCommentPiece), kCommentPiece);
         ++rec.commentCount;
         return c.encode();
-      };
-      for (long n = 1; n <= total; ++n) {
-        line = n;
-        f.read(n, buf);
-        int owner = getI16(buf, 2);
-        if (owner != 0 && owner != no) continue;
-        if (pos < commentLength) {
-          f.write(n, nextPiece());
-        } else if (owner == no) {
-          putI16(buf, 2, 0);
-          f.write(n, buf);
-        }
-      }
-      while (pos < commentLength) {
-        line = f.count() + 1;
-        f.write(f.count() + 1, nextPiece());
-      }
-      f.flush();
+      });
     }
   } catch (const FileError& e) {
     wb.errors.reportFileError(e, line, kSaveFn);

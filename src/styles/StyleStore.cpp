@@ -18,9 +18,14 @@ constexpr const char* kSaverName = "saveBeerStyles";
 constexpr int kCategoryLimit = kCategoryTableRows - 1;  // 50
 constexpr int kStyleLimit = kStyleTableRows - 1;        // 250
 
-// Opens a style file as the loader does (a missing file is created empty) and reads it whole.
-// The files are small: at most 251 records and their comments.
-std::string readWholeFile(const std::string& path) {
+// The most a table can take from its file: 51 category records; 251 style records each with the
+// longest comment block. Nothing past that is ever looked at, so a huge file is not read whole.
+constexpr size_t kCategoryReadLimit = kCategoryTableRows * kCategoryRecordLength;
+constexpr size_t kStyleReadLimit = kStyleTableRows * (kStyleRecordLength + 2 + 32767);
+
+// Opens a style file as the loader does (a missing file is created empty) and reads it, up to
+// `limit` bytes.
+std::string readStyleFile(const std::string& path, size_t limit) {
   std::FILE* f = std::fopen(path.c_str(), "rb");
   if (!f && errno == ENOENT) {
     f = std::fopen(path.c_str(), "w+b");
@@ -32,7 +37,8 @@ std::string readWholeFile(const std::string& path) {
   std::string bytes;
   char buf[65536];
   size_t n;
-  while ((n = std::fread(buf, 1, sizeof buf, f)) > 0) bytes.append(buf, n);
+  while (bytes.size() < limit && (n = std::fread(buf, 1, std::min(sizeof buf, limit - bytes.size()), f)) > 0)
+    bytes.append(buf, n);
   const bool failed = std::ferror(f) != 0;
   const int err = errno;
   std::fclose(f);
@@ -41,7 +47,7 @@ std::string readWholeFile(const std::string& path) {
 }
 
 void loadCategories(StyleTables& t, const std::string& path, ErrorLog& errors) {
-  const std::string bytes = readWholeFile(path);
+  const std::string bytes = readStyleFile(path, kCategoryReadLimit);
   size_t pos = 0;
   while (pos + kCategoryRecordLength <= bytes.size()) {
     const int row = t.BeerCategoryCount;
@@ -61,7 +67,7 @@ void loadCategories(StyleTables& t, const std::string& path, ErrorLog& errors) {
 }
 
 void loadStyles(StyleTables& t, const std::string& path, ErrorLog& errors) {
-  const std::string bytes = readWholeFile(path);
+  const std::string bytes = readStyleFile(path, kStyleReadLimit);
   size_t pos = 0;
   while (pos + kStyleRecordLength <= bytes.size()) {
     const int row = t.BeerStyleCount;
@@ -116,14 +122,22 @@ bool LoadBeerStyles(StyleTables& t, const ProgramFolder& folder, ErrorLog& error
   t.BeerStyles.fill(BeerStyleRecord{});
   t.BeerCategoryCount = 0;
   t.BeerStyleCount = 0;
+  // Each file is a step of its own: a categories file that cannot be read still lets the styles
+  // load (their categories then read "<None>").
+  bool loaded = true;
   try {
     loadCategories(t, folder.dataFile(kCategoryFile), errors);
+  } catch (const FileError& e) {
+    errors.reportFileError(e, 0, kLoaderName);
+    loaded = false;
+  }
+  try {
     loadStyles(t, folder.dataFile(kStyleFile), errors);
   } catch (const FileError& e) {
     errors.reportFileError(e, 0, kLoaderName);
-    return false;
+    loaded = false;
   }
-  return true;
+  return loaded;
 }
 
 bool LoadBeerStyles(Workbench& wb) { return LoadBeerStyles(wb.styles, wb.folder, wb.errors); }

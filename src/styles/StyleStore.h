@@ -22,7 +22,7 @@ class Workbench;
 //         styles are read (loading of styles stops there, count 251).
 // Any other file failure is reported with the procedure name "LoadBeerStyles".
 // A trailing piece shorter than a record is not a row. Never reads past the tables.
-// Returns false when a file failure stopped the load.
+// Returns false when a file failure stopped the load of either file (the other one still loads).
 bool LoadBeerStyles(StyleTables& t, const ProgramFolder& folder, ErrorLog& errors);
 bool LoadBeerStyles(Workbench& wb);
 

@@ -109,6 +109,13 @@ TEST(HopsSettings, MissingKeysGiveTheRagerDefaults) {
   EXPECT_DOUBLE_EQ(h.lookupUtilization(2.5), 0.036);
 }
 
+// The grid's 18 value cells joined by blanks.
+std::string curveText(const HopsUtilizationEditor& e) {
+  std::string s;
+  for (int r = 1; r <= kUtilRows; ++r) s += (r > 1 ? " " : "") + e.cells[static_cast<size_t>(r)];
+  return s;
+}
+
 HopsUtilizationEditor openedOnDefaults() {
   HopsUtilizationEditor e;
   e.load(HopsUtilization{});
@@ -117,8 +124,7 @@ HopsUtilizationEditor openedOnDefaults() {
 
 TEST(HopsEditor, LoadShowsTheStoredCurveAndFactors) {
   HopsUtilizationEditor e = openedOnDefaults();
-  EXPECT_EQ(e.cells[1], "5.0");
-  EXPECT_EQ(e.cells[4], "10.1");
+  EXPECT_EQ(curveText(e), "5.0 6.0 8.0 10.1 12.1 15.3 18.8 22.8 26.9 28.1 30.0 30.0 30.0 30.0 30.0 30.0 30.0 30.0");
   EXPECT_EQ(HopsUtilizationEditor::minutesText(18), "90");
   EXPECT_EQ(e.lblTitle, "Rager");
   EXPECT_EQ(e.mode, 1);
@@ -157,11 +163,21 @@ TEST(HopsEditor, EditsAreClampedAndKeepTheCurveRising) {
   e.editCell(2, ".5");
   EXPECT_EQ(e.cells[2], "0.5");
 
-  // The same value again changes neither the title nor the curve.
+  // The same value again changes neither the title nor the curve; the grid takes one decimal,
+  // so 18.84 is the same value as 18.8.
   e = openedOnDefaults();
   e.editCell(7, "18.80");
   EXPECT_EQ(e.cells[7], "18.8");
+  e.editCell(7, "18.84");
+  EXPECT_EQ(e.cells[7], "18.8");
   EXPECT_EQ(e.lblTitle, "Rager");
+  e.editCell(7, "18.86");
+  EXPECT_EQ(e.cells[7], "18.9");
+  EXPECT_EQ(e.lblTitle, "Custom Utilization Curve");
+  // Text that is no number reads as 0 and flattens the rows above.
+  e.editCell(2, "abc");
+  EXPECT_EQ(e.cells[2], "0.0");
+  EXPECT_EQ(e.cells[1], "0.0");
 }
 
 TEST(HopsEditor, PresetsKeepTheirTitleAndSetTheirFactors) {
@@ -170,8 +186,7 @@ TEST(HopsEditor, PresetsKeepTheirTitleAndSetTheirFactors) {
   e.cmdTinseth();
   EXPECT_EQ(e.lblTitle, "Tinseth");
   EXPECT_EQ(e.mode, 2);
-  for (int r = 1; r <= 18; ++r) EXPECT_DOUBLE_EQ(e.cellValue(r), static_cast<float>(tinsethCurve()[r - 1])) << r;
-  EXPECT_EQ(e.cells[1], "7.2");
+  EXPECT_EQ(curveText(e), "7.2 13.1 17.9 21.9 25.1 27.8 30.0 31.7 33.2 34.4 35.4 36.2 36.8 37.3 37.8 38.1 38.4 38.7");
   EXPECT_EQ(e.txtFactor, (std::array<std::string, 3>{"1.000", "0.000125", "0.030"}));
   EXPECT_TRUE(e.factorLocked[0]);
   EXPECT_EQ(e.factorMaxLength[1], 8);
@@ -181,15 +196,14 @@ TEST(HopsEditor, PresetsKeepTheirTitleAndSetTheirFactors) {
   e.cmdGaretz();
   EXPECT_EQ(e.lblTitle, "Garetz");
   EXPECT_EQ(e.mode, 1);
-  EXPECT_EQ(e.cells[2], "0.0");
-  EXPECT_EQ(e.cells[11], "24.5");
+  EXPECT_EQ(curveText(e), "0.0 0.0 1.0 4.0 6.0 11.0 13.0 19.0 23.0 24.0 24.5 25.0 25.0 25.0 25.0 25.0 25.0 25.0");
   EXPECT_EQ(e.txtFactor, (std::array<std::string, 3>{"1.050", "0.200", "0.020"}));
   EXPECT_EQ(e.factorMaxLength[1], 5);
 
   e.cmdReset();
   EXPECT_EQ(e.lblTitle, "None");
   EXPECT_EQ(e.mode, 0);
-  for (int r = 1; r <= 18; ++r) EXPECT_EQ(e.cells[r], "0.0") << r;
+  EXPECT_EQ(curveText(e), "0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0");
   EXPECT_EQ(e.txtFactor, (std::array<std::string, 3>{"N/A", "N/A", "N/A"}));
   EXPECT_FALSE(e.factorEnabled[1]);
   EXPECT_EQ(e.lblBlue, "N/A");
@@ -293,6 +307,15 @@ TEST(HopsEditor, AcceptStoresEverythingCancelNothing) {
   LoadHopsUtilization(again, s);
   EXPECT_EQ(again.UtilTable, h.UtilTable);
   EXPECT_EQ(again.UtilTitle, h.UtilTitle);
+
+  // The Tinseth base survives the settings' decimal text.
+  e.cmdTinseth();
+  e.saveHopsUtilization(h, s);
+  LoadHopsUtilization(again, s);
+  EXPECT_EQ(again.UtilTitle, "Tinseth");
+  EXPECT_EQ(again.GravityAdjustment, 2);
+  EXPECT_DOUBLE_EQ(again.Factor2, 0.000125);
+  EXPECT_DOUBLE_EQ(again.lookupUtilization(240), 0.387);
 
   // Mode 0: the boxes read "N/A", the factors become 0.
   e.cmdReset();

@@ -146,5 +146,9 @@ TEST(CliStore, ATerminatingErrorEndsWithStatusThree) {
   CliResult r = h.run({"version"});
   EXPECT_EQ(r.status, 3);
   EXPECT_EQ(r.err, "[Terminate Program] Error #13(Type mismatch) in frmMain!loadDefaults at Line 0\n");
-  EXPECT_EQ(readLines(h.dir.file("ZYError.log")).back(), "Terminating");
+  auto log = readLines(h.dir.file("ZYError.log"));
+  ASSERT_GE(log.size(), 3u);
+  EXPECT_EQ(log[log.size() - 3], "In Function frmMain!loadDefaults");
+  EXPECT_EQ(log[log.size() - 2], "Affecting File: " + h.dir.file("settings.ini"));  // where to mend it
+  EXPECT_EQ(log.back(), "Terminating");
 }

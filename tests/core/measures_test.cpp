@@ -49,4 +49,9 @@ TEST(Measures, RoundQuantity) {
   EXPECT_EQ(zy::roundQuantity(28.349525), 28.35);
   EXPECT_EQ(zy::roundQuantity(0.9), 0.9);
   EXPECT_EQ(zy::roundQuantity(1.0), 1.0);
+  // (x + 0.005) * 20 landing on a half goes to the even whole number, as a conversion to an
+  // integer does: 0.525 * 20 = 10.5 gives 10, 0.575 * 20 = 11.5 gives 12.
+  EXPECT_EQ(zy::roundQuantity(0.52), 0.5);
+  EXPECT_EQ(zy::roundQuantity(0.57), 0.6);
+  EXPECT_EQ(zy::roundQuantity(1.02), 1.0);
 }

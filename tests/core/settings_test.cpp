@@ -45,6 +45,14 @@ TEST(Defaults, AValueThatIsNoNumberEndsThroughTheErrorRoutine) {
   EXPECT_THROW(b.wb->loadDefaults(), Terminated);
   EXPECT_EQ(b.prompter.shown.back().title, "Terminate Program");
   EXPECT_EQ(b.prompter.shown.back().text, "Error #13(Type mismatch) in frmMain!loadDefaults at Line 0");
+  // A whole number beyond 16 bits overflows; an empty number is no number.
+  for (const char* v : {"99999", ""}) {
+    Bench o;
+    o.settings.write("Defaults", "Auto Update", v);
+    EXPECT_THROW(o.wb->loadDefaults(), Terminated);
+    EXPECT_EQ(o.prompter.shown.back().text, *v ? "Error #6(Overflow) in frmMain!loadDefaults at Line 0"
+                                               : "Error #13(Type mismatch) in frmMain!loadDefaults at Line 0");
+  }
 }
 
 TEST(Defaults, SaverWritesNinetyTwoKeysInTheirPlainForms) {
@@ -84,6 +92,45 @@ TEST(SettingsFile, KeepsSectionsAndSurvivesReopening) {
   EXPECT_EQ(readFile(path),
             "[Settings]\nMainLeft=600\n\n[Recipe List]\nSort By=3\n\n[Defaults]\nUser Name=K\xF6lsch Fan\n"
             "Extra Text=two\\nlines\n\n");
+}
+
+TEST(SettingsFile, ForgivesAHandEditedFile) {
+  TempFolder dir;
+  const std::string path = dir.file("Zythara 2.ini");
+  writeFile(path,
+            "\xEF\xBB\xBF[Defaults]\r\n"
+            "; a comment\r\n"
+            "  Mash Eff = 72\r\n"
+            "Boil Time=60\r\n"
+            "BOIL TIME=75\r\n"
+            "no equals sign here\r\n"
+            "=orphan\r\n"
+            "Quillmark Path=C:\\\\new\\\\table\r\n"  // as the program writes a backslash
+            "Extra Text=a\\nb\\z\r\n"
+            " [ Settings ] \r\n"
+            "MainLeft=1e300\r\n"
+            "MainTop=\x01\x02\xff\r\n");
+  FileSettingsStore s(path);
+  EXPECT_EQ(s.read("Defaults", "Mash Eff", ""), " 72");
+  EXPECT_EQ(s.read("Defaults", "Boil Time", ""), "75");  // the last of a doubled key counts
+  EXPECT_EQ(s.read("Defaults", "Quillmark Path", ""), "C:\\new\\table");
+  EXPECT_EQ(s.read("Defaults", "Extra Text", ""), "a\nb\\z");  // an unknown escape stays
+  EXPECT_EQ(readLong(s, "Settings", "MainLeft", 500), 500);  // no window position
+  EXPECT_EQ(readLong(s, "Settings", "MainTop", 500), 500);
+  // A write reaches the key that reads count; backslashes survive the round trip.
+  s.write("defaults", "boil time", "90");
+  s.write("Defaults", "Quillmark Path", "C:\\new\\table\\rx");
+  FileSettingsStore again(path);
+  EXPECT_EQ(again.read("Defaults", "Boil Time", ""), "90");
+  EXPECT_EQ(again.read("Defaults", "Quillmark Path", ""), "C:\\new\\table\\rx");
+  EXPECT_EQ(again.read("Defaults", "Extra Text", ""), "a\nb\\z");
+
+  // Bytes that are no settings file at all read as an empty store.
+  std::string junk;
+  for (int i = 0; i < 4096; ++i) junk += static_cast<char>((i * 131 + 7) % 256);
+  writeFile(path, junk);
+  FileSettingsStore j(path);
+  EXPECT_EQ(j.read("Defaults", "Mash Eff", "80"), "80");
 }
 
 TEST(Properties, FilledFromTheDefaultsWithTheirFormats) {

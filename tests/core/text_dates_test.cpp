@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "core/dates.h"
 #include "core/text.h"
 
@@ -30,6 +32,9 @@ TEST(Dates, SerialsAndFormats) {
   EXPECT_EQ(zy::formatDate(d, "yyyy-mm-dd - "), "1998-10-05 - ");
   EXPECT_EQ(zy::formatDateTime(zy::serialFromCivil(2026, 11, 22, 15, 4, 5)), "11/22/2026 3:04:05 PM");
   EXPECT_EQ(zy::formatDateTime(zy::serialFromCivil(2026, 1, 2, 0, 30, 0)), "1/2/2026 12:30:00 AM");
+  EXPECT_EQ(zy::formatDateMDY(-1.25), "Dec-29-1899");
+  // A damaged date in a record (no date at all) shows as day 0 instead of an impossible year.
+  for (double bad : {1e300, -1e300, 3e6, std::nan("")}) EXPECT_EQ(zy::formatDateMDY(bad), "Dec-30-1899") << bad;
 }
 
 TEST(Dates, ReadingAcceptsTheUsualForms) {

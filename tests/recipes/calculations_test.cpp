@@ -297,26 +297,6 @@ TEST(RecipeCalculations, ExtractionPercentOfTheMaximum) {
   EXPECT_EQ(lblExtPct(2.0), "(0%)");
 }
 
-TEST(RecipeCalculations, WhatRecomputesWhat) {
-  auto r = [](EditEvent e, int mode = 1) {
-    Recompute x = recomputeFor(e, mode);
-    return std::string(x.color ? "C" : "-") + (x.bitterness ? "B" : "-") + (x.cost ? "$" : "-");
-  };
-  EXPECT_EQ(r(EditEvent::Structure), "CB$");
-  EXPECT_EQ(r(EditEvent::MaltQuantity), "CB$");
-  EXPECT_EQ(r(EditEvent::MaltQuantity, 0), "C-$");
-  EXPECT_EQ(r(EditEvent::HopsQuantity), "-B$");
-  EXPECT_EQ(r(EditEvent::OtherQuantity), "--$");
-  EXPECT_EQ(r(EditEvent::MaltUnit), "C-$");
-  EXPECT_EQ(r(EditEvent::HopsUnit), "-B$");
-  EXPECT_EQ(r(EditEvent::Cost), "--$");
-  EXPECT_EQ(r(EditEvent::MaltRating), "C--");
-  EXPECT_EQ(r(EditEvent::HopsRating), "-B-");
-  EXPECT_EQ(r(EditEvent::YeastAttenuation), "C--");
-  EXPECT_EQ(r(EditEvent::MashFlag), "C--");
-  EXPECT_EQ(r(EditEvent::Volume), "-B-");
-}
-
 TEST(IngredientTable, SectionsAreFoundByColumnZero) {
   IngredientTable t;
   ASSERT_EQ(t.rowCount(), 5);

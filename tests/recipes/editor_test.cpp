@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "core/measures.h"
 #include "core/paths.h"
 #include "core/records.h"
@@ -138,6 +140,18 @@ TEST(RecipeEditor, EfficiencyReplacementTakesTheValueForAFraction) {
   EXPECT_FALSE(t.e.mashInfoEnabled);
   EXPECT_DOUBLE_EQ(t.wb.recipe.rec.mashEfficiency, 72);  // no mash: left alone, and still used
   EXPECT_EQ(t.e.sheet.lblColor, "15.5");                // (3 * 8 * 0.72 + 60) / 5 = 15.456
+
+  // The limits themselves are kept; just beyond them, and a field that holds no number, the
+  // default comes in. None of it counts as a change.
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  const std::vector<std::pair<double, double>> opened = {
+      {0.5, 0.5}, {0.95, 0.95}, {0.49, 80}, {0.96, 80}, {95, 80}, {0, 80}, {-5, 80}, {nan, 80}};
+  for (const auto& [stored, shown] : opened) {
+    t.store(3, "Limits", [stored](CurrentRecipe& c) { c.rec.mashEfficiency = stored; });
+    ASSERT_TRUE(t.e.openRecipe(3)) << stored;
+    EXPECT_DOUBLE_EQ(t.wb.recipe.rec.mashEfficiency, shown) << stored;
+    EXPECT_FALSE(t.e.recipeChanged()) << stored;
+  }
 }
 
 TEST(RecipeEditor, SaveWritesTheTableBackUnchangedAndTheComputedValuesAsShown) {
@@ -317,6 +331,15 @@ TEST(RecipeEditor, UnitChangeConvertsMaltAndHopsOnly) {
   EXPECT_EQ(g.cell(7, COL_COST), "$0.35");
   EXPECT_EQ(g.cell(7, COL_UNITS), "Gr");
   EXPECT_TRUE(e.recipeChanged());
+
+  e.selectRow(2);
+  e.setQuantity("0.73");
+  e.setUnits(UNIT_KG);  // the unit it has: nothing is rounded again
+  EXPECT_EQ(g.cell(2, COL_QTY), "0.73");
+  EXPECT_EQ(g.cell(2, COL_COST), "$3.53");
+  e.setUnits(UNIT_LBS);  // 1.609 lbs to a multiple of 0.05, and the cost per pound
+  EXPECT_EQ(g.cell(2, COL_QTY), "1.6");
+  EXPECT_EQ(g.cell(2, COL_COST), "$1.60");
 }
 
 TEST(RecipeEditor, QuantityStepsToTheNextAndPreviousFraction) {
@@ -509,6 +532,60 @@ TEST(RecipeEditor, VolumeChangeRefreshesBitternessOnly) {
   EXPECT_TRUE(t.e.recipeChanged());
   t.e.mashDataChanged();                  // the next full recompute catches up
   EXPECT_EQ(t.e.sheet.lblOG, "1.026");
+}
+
+TEST(RecipeEditor, EachEditRecomputesWhatItAffects) {
+  EditorBench t;
+  t.store(1, "Amber");
+  ASSERT_TRUE(t.e.openRecipe(1));
+  RecipeEditor& e = t.e;
+  RecipeSheet& s = e.sheet;
+  // Marks the three kinds of result, runs the edit and tells which were written again:
+  // C colour and gravity, B bitterness, $ cost. Every edit marks the recipe changed.
+  auto after = [&](int row, const std::function<void()>& edit) {
+    if (row >= 0) e.selectRow(row);
+    e.recReset();
+    s.lblColor = s.lblOG = s.lblFG = s.lblAlcohol = s.lblIBU = "x";
+    s.grid.setCell(s.grid.totalRow(), COL_COST, "x");
+    edit();
+    EXPECT_TRUE(e.recipeChanged()) << row;
+    return std::string(s.lblOG != "x" && s.lblColor != "x" ? "C" : "-") + (s.lblIBU != "x" ? "B" : "-") +
+           (s.grid.cell(s.grid.totalRow(), COL_COST) != "x" ? "$" : "-");
+  };
+  // Rows: 1 and 2 malts, 4 and 5 hops, 7 other, 9 yeast.
+  EXPECT_EQ(after(1, [&] { e.setQuantity("9"); }), "CB$");  // gravity adjustment on
+  t.wb.hops.GravityAdjustment = 0;
+  EXPECT_EQ(after(1, [&] { e.setQuantity("8"); }), "C-$");
+  t.wb.hops.GravityAdjustment = 1;
+  EXPECT_EQ(after(1, [&] { e.setUnits(UNIT_KG); }), "C-$");
+  EXPECT_EQ(after(1, [&] { e.setCost("2"); }), "--$");
+  EXPECT_EQ(after(1, [&] { e.setExtraction("1.037"); }), "C--");
+  EXPECT_EQ(after(1, [&] { e.setColor("4"); }), "C--");
+  EXPECT_EQ(after(1, [&] { e.setMash(false); }), "C--");
+  EXPECT_EQ(after(4, [&] { e.setQuantity("2"); }), "-B$");
+  EXPECT_EQ(after(4, [&] { e.stepQuantity(QtyStep::Half, true); }), "-B$");
+  EXPECT_EQ(after(4, [&] { e.setUnits(UNIT_GR); }), "-B$");
+  EXPECT_EQ(after(4, [&] { e.setExtraction("6"); }), "-B-");
+  EXPECT_EQ(after(4, [&] { e.setColor("45"); }), "-B-");
+  EXPECT_EQ(after(7, [&] { e.setQuantity("2"); }), "--$");
+  EXPECT_EQ(after(9, [&] { e.setQuantity("2"); }), "--$");
+  EXPECT_EQ(after(9, [&] { e.setExtraction("70"); }), "C--");
+  EXPECT_EQ(after(-1, [&] { e.setFermentVolume("6"); }), "-B-");
+  EXPECT_EQ(after(-1, [&] { e.setBoilVolume("6"); }), "-B-");
+  EXPECT_EQ(after(-1, [&] { e.mashDataChanged(); }), "CB$");
+  EXPECT_EQ(after(-1, [&] { e.cmdAddNew_Click(KIND_OTHER); }), "CB$");
+  EXPECT_EQ(after(2, [&] { e.cmdDeleteIngredient_Click(); }), "CB$");
+
+  // The editor filling its own controls starts nothing.
+  e.selectRow(4);
+  e.recReset();
+  s.lblIBU = "x";
+  e.filling = true;
+  e.setQuantity("3");
+  e.setFermentVolume("9");
+  e.filling = false;
+  EXPECT_EQ(s.lblIBU, "x");
+  EXPECT_FALSE(e.recipeChanged());
 }
 
 TEST(RecipeEditor, StylesKnownUnknownAndChosen) {

@@ -234,7 +234,7 @@ TEST(RecipeStore, SlotsAreReusedFromTheRememberedPosition) {
   EXPECT_EQ(add("Four"), 4);
   EXPECT_TRUE(deleteRecipe(wb, 1));
   EXPECT_TRUE(deleteRecipe(wb, 3));
-  // The search resumes at 4: slot 1 and 3 lie behind it... 3 does not: it is before 4.
+  // The search resumes at the remembered 4: the freed slots 1 and 3 lie before it.
   EXPECT_EQ(findNextRecipeSlot(wb), 5);
   EXPECT_EQ(recordCount(b.dir.file("Data/ZYRecipe.dat"), 1546), 4);
   // A fresh start searches from 1 again.
@@ -313,6 +313,15 @@ TEST(RecipeStore, ItemsAndCommentsAreRewrittenAndFreed) {
   ASSERT_TRUE(saveCurrentRecipe(wb));
   EXPECT_EQ(wb.recipe.rec.commentCount, 0);
   EXPECT_EQ(ownerOf(comments, 126, 1), 0);
+}
+
+TEST(RecipeStore, SavingWithoutARecordNumberEndsTheProgram) {
+  Bench b;
+  newRecipeRecord(*b.wb);  // recipeNo 0: no slot was taken
+  EXPECT_THROW(saveCurrentRecipe(*b.wb), Terminated);
+  EXPECT_EQ(b.prompter.shown.back().text,
+            "Error #63(Bad record number) in frmRecipeList!saveCurrentRecipe at Line 0");
+  EXPECT_EQ(readFile(b.dir.file("Data/ZYRecipe.dat")), "");
 }
 
 TEST(RecipeStore, CommentCounts) {

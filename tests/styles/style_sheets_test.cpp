@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "core/text.h"
 #include "styles/StyleMatch.h"
@@ -16,6 +18,15 @@ const BeerStyleRecord* byName(const StyleTables& t, const std::string& name) {
   for (int i = 0; i < t.BeerStyleCount; ++i)
     if (trim(t.BeerStyles[static_cast<size_t>(i)].styleName) == name) return &t.BeerStyles[static_cast<size_t>(i)];
   return nullptr;
+}
+
+// The data lines of a sheet (after its header) split into cells.
+std::vector<std::vector<std::string>> sheetRows(const std::string& path) {
+  std::vector<std::vector<std::string>> rows;
+  const auto lines = split(test::readFile(path), '\n');
+  for (size_t i = 1; i < lines.size(); ++i)
+    if (!trimWhite(lines[i]).empty()) rows.push_back(splitCsvLine(trimWhite(lines[i])));
+  return rows;
 }
 
 TEST(ShippedStyles, SheetsBuildFilesThatLoadWithoutAWord) {
@@ -64,6 +75,35 @@ TEST(ShippedStyles, SheetsBuildFilesThatLoadWithoutAWord) {
   const StyleStatistics st = computeStyleStatistics(s);
   EXPECT_EQ(st.aob, 98);
   EXPECT_EQ(st.bjcp, 152);
+
+  // Every line of both sheets lands in its row of the files, in sheet order.
+  const auto cats = sheetRows(dir + "categories.csv");
+  ASSERT_EQ(static_cast<int>(cats.size()), s.BeerCategoryCount);
+  for (size_t i = 0; i < cats.size(); ++i) {
+    const auto& c = cats[i];
+    ASSERT_EQ(c.size(), 4u);
+    const BeerCategoryRecord& r = s.BeerCategories[i];
+    EXPECT_EQ(styleSourceName(r.source), c[0]) << i;
+    EXPECT_EQ(trim(r.id), c[1]) << i;
+    EXPECT_EQ(cp1252ToUtf8(trim(r.category)), c[2]) << i;
+    EXPECT_EQ(cp1252ToUtf8(trim(r.subCategory)), c[3]) << i;
+  }
+  const auto styles = sheetRows(dir + "styles.csv");
+  ASSERT_EQ(static_cast<int>(styles.size()), s.BeerStyleCount);
+  for (size_t i = 0; i < styles.size(); ++i) {
+    const auto& c = styles[i];
+    ASSERT_EQ(c.size(), 14u);
+    const BeerStyleRecord& r = s.BeerStyles[i];
+    EXPECT_EQ(styleSourceName(r.source), c[0]) << i;
+    const BeerCategoryRecord& cat = s.BeerCategories[static_cast<size_t>(findCategoryRow(s, r.categoryIndex))];
+    EXPECT_EQ(trim(cat.id), c[1]) << i;
+    EXPECT_EQ(cat.source, r.source) << i;
+    EXPECT_EQ(trim(r.styleId), c[2]) << i;
+    EXPECT_EQ(cp1252ToUtf8(trim(r.styleName)), c[3]) << i;
+    const double ranges[10] = {r.ogLow, r.ogHigh, r.fgLow, r.fgHigh, r.ibuLow, r.ibuHigh,
+                               r.srmLow, r.srmHigh, r.alcoholLow, r.alcoholHigh};
+    for (size_t k = 0; k < 10; ++k) EXPECT_EQ(ranges[k], c[4 + k].empty() ? 0.0 : std::stod(c[4 + k])) << i << " " << k;
+  }
 }
 
 TEST(ShippedStyles, SheetsThatDoNotFitAreRefusedWithTheirLine) {

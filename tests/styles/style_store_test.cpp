@@ -175,6 +175,23 @@ TEST(StyleFiles, LoadOverwritesKeysAndReadsComments) {
   EXPECT_EQ(styleBrowserEntry(t, 0).sourceName, "AOB");
 }
 
+TEST(StyleFiles, LoadThenSaveGivesBackTheSameBytes) {
+  Bench b;
+  // Keys already equal to the rows, reserved bytes that are not zero: nothing may change.
+  std::string cat = categoryBytes(0x00);
+  cat.replace(126, 18, "reserved-category!");
+  std::string style = styleBytes();
+  style[166] = '\0';
+  style.replace(168, 18, std::string("\x01\x02reserved-style\xFF\x00", 18));
+  const std::string styles = style + commentBytes("Line one\r\nline two");
+  writeFile(catPath(b), cat);
+  writeFile(stylePath(b), styles);
+  ASSERT_TRUE(LoadBeerStyles(*b.wb));
+  ASSERT_TRUE(saveBeerStyles(*b.wb));
+  EXPECT_EQ(readFile(catPath(b)), cat);
+  EXPECT_EQ(readFile(stylePath(b)), styles);
+}
+
 TEST(StyleFiles, MissingFilesAreCreatedEmpty) {
   Bench b;
   ASSERT_FALSE(fileExists(catPath(b)));
@@ -229,12 +246,16 @@ TEST(StyleFiles, FiftyCategoriesAndTwoHundredFiftyStylesLoadSilently) {
 TEST(StyleFiles, OneRowPastTheLimitIsReportedAndLoadingStopsWithinTheTables) {
   Bench b;
   writeFile(catPath(b), repeat(categoryBytes(), 60));
-  writeFile(stylePath(b), repeat(styleBytes() + commentBytes("c"), 300));
+  // 251 styles with the longest comments a count can give, then a megabyte of junk: the 251st
+  // style is still read whole, nothing after it is.
+  const std::string longest(32767, 'k');
+  writeFile(stylePath(b), repeat(styleBytes() + commentBytes(longest), 251) + std::string(1 << 20, '\x7F'));
   ASSERT_TRUE(LoadBeerStyles(*b.wb));  // no termination, no read past the tables
   const StyleTables& t = b.wb->styles;
   EXPECT_EQ(t.BeerCategoryCount, 51);
   EXPECT_EQ(t.BeerStyleCount, 251);
   EXPECT_EQ(t.BeerStyles[250].styleIndex, 250);
+  EXPECT_EQ(t.BeerStyles[250].comments, longest);
   ASSERT_EQ(b.prompter.shown.size(), 2u);
   EXPECT_EQ(b.prompter.shown[0].text,
             "Maximum Beer Category Records Reached in " + catPath(b) + ", Additional Records Ignored");
