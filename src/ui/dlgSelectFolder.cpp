@@ -2,6 +2,7 @@
 
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QFile>
 #include <QEvent>
 #include <QFileSystemModel>
 #include <QHBoxLayout>
@@ -111,9 +112,10 @@ void dlgSelectFolder::newFolder() {
 }
 
 std::optional<std::string> dlgSelectFolder::pick(QWidget* parent, const std::string& title, const std::string& initial) {
-  dlgSelectFolder dlg(qs(title), qs(initial), parent);
+  // The folder is a path of the file system, in its own encoding, not a text of the program.
+  dlgSelectFolder dlg(qs(title), QFile::decodeName(initial.c_str()), parent);
   if (dlg.exec() != QDialog::Accepted || dlg.folder().isEmpty()) return std::nullopt;
-  return s8(dlg.folder());
+  return QFile::encodeName(dlg.folder()).toStdString();
 }
 
 }  // namespace zy

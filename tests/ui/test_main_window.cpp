@@ -282,6 +282,18 @@ TEST(MainWindow, BackupThroughTheFolderPickerThenRestoreFromAnEmptyFolder) {
   EXPECT_EQ(b.prompter.shown.back().text,
             "No Backup Files in this Folder, Be Sure to Double-Click the Desired Folder");
   EXPECT_EQ(readFile(b.wb->folder.dataFile(kRecipeFile)), std::string("data ") + kRecipeFile);
+
+  // A folder whose name has accented letters is the folder of that name on the disk.
+  const std::string accented = b.dir.file("Sauvegarde \xC3\xA9t\xC3\xA9");
+  whenModalOpens([&](QWidget* w) {
+    auto* dlg = qobject_cast<dlgSelectFolder*>(w);
+    ASSERT_NE(dlg, nullptr);
+    dlg->txtFolder->setText(QString::fromUtf8(accented.c_str()));
+    dlg->cmdOK->click();
+  });
+  b.w->mnuFileBackupDB->trigger();
+  EXPECT_EQ(readFile(accented + "/" + kRecipeFile), std::string("data ") + kRecipeFile);
+  EXPECT_EQ(b.settings.read("Settings", "Backup Path", ""), accented);
 }
 
 TEST(UpdateCheck, QtFetchAgainstALocalServer) {
