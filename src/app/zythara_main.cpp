@@ -1,11 +1,11 @@
 // The desktop program: `zythara [--home DIR] [--settings FILE] [RECIPE-FILE]`.
 #include <QApplication>
+#include <QFile>
 #include <cstdio>
 #include <cstdlib>
 
 #include "core/paths.h"
 #include "core/settings.h"
-#include "core/text.h"
 #include "ui/QtPrompter.h"
 #include "ui/SubMain.h"
 #include "ui/TopicIcons.h"
@@ -20,7 +20,8 @@ int main(int argc, char** argv) {
 
   std::vector<std::string> args;
   const QStringList qargs = QApplication::arguments();
-  for (int i = 1; i < qargs.size(); ++i) args.push_back(qargs[i].toStdString());
+  // Arguments stay in the file system's own encoding: they are paths, opened and never shown.
+  for (int i = 1; i < qargs.size(); ++i) args.push_back(QFile::encodeName(qargs[i]).toStdString());
   zy::CommandLine cl = zy::parseCommandLine(args);
   if (!cl.unknownOptions.empty()) {
     std::fprintf(stderr, "zythara: unknown option %s\nusage: zythara [--home DIR] [--settings FILE] [RECIPE-FILE]\n",
@@ -38,7 +39,7 @@ int main(int argc, char** argv) {
   wb.errors.setTerminationHook([](int) { std::_Exit(3); });
 
   zy::SubMain subMain(wb);
-  zy::frmMain* main = subMain.run(zy::utf8ToCp1252(cl.recipeFile));
+  zy::frmMain* main = subMain.run(cl.recipeFile);
   prompter.setParent(main);
   return app.exec();
 }

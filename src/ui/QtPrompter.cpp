@@ -1,8 +1,10 @@
 #include "ui/QtPrompter.h"
 
 #include <QApplication>
+#include <algorithm>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 
 #include "core/text.h"
@@ -39,7 +41,16 @@ Answer QtPrompter::message(const std::string& text, const std::string& title, Ic
                            Answer defaultAnswer) {
   QMessageBox box(parent_);
   box.setWindowTitle(qs(title));
-  box.setText(qs(text));
+  // The messages break their lines with carriage return and line feed; the box wants "\n".
+  const QString shown = qs(replaceAll(text, "\r\n", "\n"));
+  box.setText(shown);
+  // The box wraps long lines at a narrow width of its own; a message line of up to about 80
+  // characters stays whole.
+  if (auto* label = box.findChild<QLabel*>("qt_msgbox_label")) {
+    int widest = 0;
+    for (const QString& line : shown.split('\n')) widest = std::max(widest, label->fontMetrics().horizontalAdvance(line));
+    label->setMinimumWidth(std::min(widest + 8, label->fontMetrics().averageCharWidth() * 80));
+  }
   switch (icon) {
     case Icon::Information: box.setIcon(QMessageBox::Information); break;
     case Icon::Warning: box.setIcon(QMessageBox::Warning); break;

@@ -2,6 +2,8 @@
 
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QFile>
+#include <QEvent>
 #include <QFileSystemModel>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -60,6 +62,13 @@ dlgSelectFolder::dlgSelectFolder(const QString& title, const QString& initialFol
   connect(txtFolder, &QLineEdit::textChanged, this,
           [this](const QString& t) { cmdOK->setEnabled(!t.trimmed().isEmpty()); });
   connect(cmdNewFolder, &QPushButton::clicked, this, &dlgSelectFolder::newFolder);
+  // The folders are read in the background: each folder read may bring the proposed one nearer.
+  connect(model_, &QFileSystemModel::directoryLoaded, this, [this] { revealFolder(); });
+  connect(model_, &QFileSystemModel::rowsInserted, this, [this] { revealFolder(); });
+  connect(model_, &QFileSystemModel::layoutChanged, this, [this] { revealFolder(); });
+  tvFolders->viewport()->installEventFilter(this);
+  tvFolders->installEventFilter(this);
+  txtFolder->installEventFilter(this);
   connect(box, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(box, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
@@ -71,13 +80,23 @@ QString dlgSelectFolder::folder() const { return QDir::cleanPath(txtFolder->text
 
 void dlgSelectFolder::setFolder(const QString& path) {
   txtFolder->setText(path);
-  QModelIndex i = model_->index(path);
-  if (i.isValid()) {
-    tvFolders->setCurrentIndex(i);
-    tvFolders->scrollTo(i, QAbstractItemView::PositionAtCenter);
-    tvFolders->expand(i);
-  }
-  txtFolder->setText(path);
+  revealing_ = QDir::cleanPath(path);
+  revealFolder();
+}
+
+bool dlgSelectFolder::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress) revealing_.clear();
+  return QDialog::eventFilter(watched, event);
+}
+
+void dlgSelectFolder::revealFolder() {
+  if (revealing_.isEmpty()) return;
+  QModelIndex i = model_->index(revealing_);
+  if (!i.isValid()) return;
+  tvFolders->setCurrentIndex(i);
+  tvFolders->scrollTo(i, QAbstractItemView::PositionAtCenter);
+  tvFolders->expand(i);
+  txtFolder->setText(revealing_);
 }
 
 void dlgSelectFolder::newFolder() {
@@ -93,9 +112,10 @@ void dlgSelectFolder::newFolder() {
 }
 
 std::optional<std::string> dlgSelectFolder::pick(QWidget* parent, const std::string& title, const std::string& initial) {
-  dlgSelectFolder dlg(qs(title), qs(initial), parent);
+  // The folder is a path of the file system, in its own encoding, not a text of the program.
+  dlgSelectFolder dlg(qs(title), QFile::decodeName(initial.c_str()), parent);
   if (dlg.exec() != QDialog::Accepted || dlg.folder().isEmpty()) return std::nullopt;
-  return s8(dlg.folder());
+  return QFile::encodeName(dlg.folder()).toStdString();
 }
 
 }  // namespace zy

@@ -19,7 +19,8 @@ class dlgSelectFolder : public QDialog {
   QString folder() const;
   void setFolder(const QString& path);
 
-  // Shows the picker; the chosen folder (8-bit text) or nothing on Cancel.
+  // Shows the picker; the chosen folder or nothing on Cancel. The title is 8-bit text; the
+  // folders, in and out, are paths in the file system's encoding.
   static std::optional<std::string> pick(QWidget* parent, const std::string& title, const std::string& initial);
 
   QLineEdit* txtFolder = nullptr;
@@ -29,7 +30,12 @@ class dlgSelectFolder : public QDialog {
 
  private:
   void newFolder();
+  // Brings the proposed folder into sight as the folders above it are read, until the user
+  // turns to the tree or the box.
+  void revealFolder();
+  bool eventFilter(QObject* watched, QEvent* event) override;
   QFileSystemModel* model_ = nullptr;
+  QString revealing_;  // the folder to show while the tree is still being read
 };
 
 }  // namespace zy

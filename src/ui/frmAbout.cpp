@@ -27,7 +27,11 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
                                  .arg(kApplicationName));
   lblVersion = new QLabel(QString::fromStdString(splashVersionLine()));
   lblVersion->setObjectName("lblVersion");
-  lblLegal = new QLabel(qs(legalLine()));
+  // The notice wraps after its first sentence, never inside "Copyright (c) year".
+  QString legal = qs(legalLine());
+  const QChar nbsp(0x00A0), copyright(0x00A9);
+  legal.replace(QString("Copyright ") + copyright + ' ', QString("Copyright") + nbsp + copyright + nbsp);
+  lblLegal = new QLabel(legal);
   lblLegal->setObjectName("lblLegal");
   lblLegal->setWordWrap(true);
   auto* text = new QVBoxLayout;

@@ -183,7 +183,9 @@ QWidget* frmMain::buildTopicPanel() {
     tvwTopics[static_cast<size_t>(i)] = t;
     stack_->addWidget(t);
     connect(t, &QTreeWidget::currentItemChanged, this, [this, i](QTreeWidgetItem* cur) {
-      if (syncing_ || !cur) return;
+      // A tree that receives the focus with no current node makes its first node current
+      // without selecting it; only a node the user selected (click or arrow keys) is shown.
+      if (syncing_ || !cur || !cur->isSelected()) return;
       pressed_ = cur;
       nodeSelected(i, cur);
     });

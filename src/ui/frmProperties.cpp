@@ -44,6 +44,15 @@ QGroupBox* group(const QString& title, QLayout* layout) {
   return g;
 }
 
+// A row of a form: the caption, the box and its unit behind it.
+void addUnitRow(QFormLayout* form, const QString& caption, QLineEdit* edit, const QString& unit) {
+  auto* h = new QHBoxLayout;
+  h->addWidget(edit);
+  h->addWidget(new QLabel(unit));
+  h->addStretch();
+  form->addRow(caption, h);
+}
+
 bool isIonField(const std::string& name) {
   return name == "txtCa" || name == "txtCl" || name == "txtCO3" || name == "txtMg" || name == "txtNa" ||
          name == "txtSO4";
@@ -360,12 +369,7 @@ QWidget* frmProperties::buildWaterPage() {
   auto* page = new QWidget;
   auto* form = new QFormLayout;
   auto row = [&](const QString& caption, const std::string& name, const QString& tip, const QString& unit) {
-    auto* h = new QHBoxLayout;
-    h->addWidget(makeEdit(name, tip, 80));
-    auto* u = new QLabel(unit);
-    h->addWidget(u);
-    h->addStretch();
-    form->addRow(caption, h);
+    addUnitRow(form, caption, makeEdit(name, tip, 80), unit);
   };
   row(tr("Evaporation Rate:"), "txtEvaporationRate", tr("Share of the wort boiled away each hour"), tr("% per hour"));
   row(tr("Mash Water per Lb:"), "txtMashPerLb", tr("Strike water for each pound of grain"), tr("volume per lb"));
@@ -406,11 +410,7 @@ QWidget* frmProperties::buildTreatmentPage() {
   grid->setColumnStretch(6, 1);
   auto* form = new QFormLayout;
   auto row = [&](const QString& caption, const std::string& name, const QString& tip, const QString& unit) {
-    auto* h = new QHBoxLayout;
-    h->addWidget(makeEdit(name, tip, 70));
-    h->addWidget(new QLabel(unit));
-    h->addStretch();
-    form->addRow(caption, h);
+    addUnitRow(form, caption, makeEdit(name, tip, 70), unit);
   };
   row(tr("Gram Increment:"), "txtGramInc", tr("Step of the salt buttons when weighing in grams"), tr("grams"));
   row(tr("Tsp Increment:"), "txtTspInc", tr("Step of the salt buttons when measuring by the teaspoon"), tr("tsp"));
@@ -508,7 +508,8 @@ bool frmProperties::eventFilter(QObject* watched, QEvent* event) {
     const QString t = ke->text();
     if (t.size() != 1 || !PropertiesModel::isNumericField(name)) return false;
     const QChar c = t[0];
-    if (c.unicode() < 32 && c.unicode() != 8) return false;  // Enter, Tab, Escape go their way
+    // Enter, Tab, Escape and Delete (127 on some keyboards) go their way.
+    if ((c.unicode() < 32 && c.unicode() != 8) || c.unicode() == 127) return false;
     const int key = c.unicode() < 256 ? c.unicode() : 'x';
     if (model.filterKey(name, key, &wb_.prompter) == 0) return true;  // swallowed, beeped
     return false;

@@ -1,41 +1,13 @@
 // The command line verbs over the encyclopedia, backup, restore and the update check.
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <filesystem>
 
-#include "app/cli/Cli.h"
+#include "CliRunner.h"
 #include "reference/ReferenceBuild.h"
-#include "support/TestSupport.h"
 
 namespace zy::test {
 namespace {
-
-struct CliRun {
-  int status;
-  std::string out, err;
-};
-
-CliRun cli(const std::string& home, const std::string& settings, std::vector<std::string> args) {
-  std::vector<std::string> argv = {"--home", home, "--settings", settings};
-  argv.insert(argv.end(), args.begin(), args.end());
-  std::FILE* out = std::tmpfile();
-  std::FILE* err = std::tmpfile();
-  CliRun r;
-  r.status = cli::run(argv, out, err);
-  auto slurp = [](std::FILE* f) {
-    std::string s;
-    std::rewind(f);
-    char buf[4096];
-    size_t n;
-    while ((n = std::fread(buf, 1, sizeof buf, f)) > 0) s.append(buf, n);
-    std::fclose(f);
-    return s;
-  };
-  r.out = slurp(out);
-  r.err = slurp(err);
-  return r;
-}
 
 TopicSource t(const std::string& title, const std::string& index, const std::string& body, int images = 0) {
   TopicSource s;
@@ -52,7 +24,7 @@ TopicSource t(const std::string& title, const std::string& index, const std::str
   return s;
 }
 
-struct Home {
+struct Home : CliHome {
   Home() {
     BookSource b;
     b.sourceFile = "b.txt";
@@ -63,13 +35,12 @@ struct Home {
                                    {b}, dir.file("Reference"));
     EXPECT_TRUE(r.ok());
   }
-  CliRun operator()(std::vector<std::string> args) { return cli(dir.path(), dir.file("z.ini"), std::move(args)); }
-  TempFolder dir;
+  CliResult operator()(std::vector<std::string> args) const { return run(std::move(args)); }
 };
 
 TEST(ReferenceVerbs, TopicsTopicSearchAndBooks) {
   Home h;
-  CliRun r = h({"topics"});
+  CliResult r = h({"topics"});
   EXPECT_EQ(r.status, 0);
   EXPECT_EQ(r.out, "Hops\nMalt\n");
   r = h({"topic", "MALT"});
@@ -99,9 +70,18 @@ TEST(ReferenceVerbs, TopicsTopicSearchAndBooks) {
 
 TEST(ReferenceVerbs, BackupRestoreAndCheckUpdate) {
   Home h;
-  std::filesystem::create_directories(h.dir.file("Data"));
   writeFile(h.dir.file("Data/ZYRecipe.dat"), "recipes");
-  CliRun r = h({"backup", h.dir.file("bk")});
+  // Without a folder the proposed one is taken: today's folder below Backups.
+  CliResult r = h({"backup"});
+  EXPECT_EQ(r.status, 0);
+  std::vector<std::string> dated;
+  for (const auto& e : std::filesystem::directory_iterator(h.dir.file("Backups"))) dated.push_back(e.path().string());
+  ASSERT_EQ(dated.size(), 1u);
+  EXPECT_EQ(std::filesystem::path(dated[0]).filename().string().size(), 10u);  // yyyy-mm-dd
+  EXPECT_EQ(readFile(dated[0] + "/ZYRecipe.dat"), "recipes");
+  EXPECT_NE(readFile(h.dir.file("settings.ini")).find("Backup Path=" + h.dir.file("Backups")), std::string::npos);
+
+  r = h({"backup", h.dir.file("bk")});
   EXPECT_EQ(r.status, 0);
   EXPECT_EQ(r.err, "[Backup Zythara Databases] The Full Database Backup Has Completed Successfully\n");
   EXPECT_EQ(readFile(h.dir.file("bk/ZYRecipe.dat")), "recipes");
@@ -113,21 +93,25 @@ TEST(ReferenceVerbs, BackupRestoreAndCheckUpdate) {
   r = h({"restore", h.dir.file("bk")});
   EXPECT_EQ(r.status, 0);
   EXPECT_EQ(readFile(h.dir.file("Data/ZYRecipe.dat")), "recipes");
+  // A folder with accented letters is the folder of that name on the disk.
+  r = h({"backup", h.dir.file("bk \xC3\xA9t\xC3\xA9")});
+  EXPECT_EQ(r.status, 0);
+  EXPECT_EQ(readFile(h.dir.file("bk \xC3\xA9t\xC3\xA9/ZYRecipe.dat")), "recipes");
   r = h({"restore", h.dir.file("nothing")});
   EXPECT_EQ(r.status, 1);
   EXPECT_EQ(r.err, "[Restore All Zythara Databases] No Backup Files in this Folder, Be Sure to Double-Click the "
                    "Desired Folder\n");
   EXPECT_EQ(h({"restore"}).status, 2);
 
-  writeFile(h.dir.file("z.ini"), "[Settings]\nCheck Update=12/31/2099\n");
+  writeFile(h.dir.file("settings.ini"), "[Settings]\nCheck Update=12/31/2099\n");
   r = h({"check-update", "http://127.0.0.1:1/ZYCurrent.ver"});
   EXPECT_EQ(r.out, "not due\n");
-  writeFile(h.dir.file("z.ini"), "[Settings]\nCheck Update=1/1/2007\n");
+  writeFile(h.dir.file("settings.ini"), "[Settings]\nCheck Update=1/1/2007\n");
   r = h({"check-update", "http://127.0.0.1:1/ZYCurrent.ver"});
   EXPECT_EQ(r.status, 0);
   EXPECT_EQ(r.out, "unavailable\n");
   EXPECT_EQ(r.err, "");
-  EXPECT_EQ(readFile(h.dir.file("z.ini")).find("1/1/2007"), std::string::npos);
+  EXPECT_EQ(readFile(h.dir.file("settings.ini")).find("1/1/2007"), std::string::npos);
 }
 
 }  // namespace

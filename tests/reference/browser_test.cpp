@@ -216,6 +216,32 @@ TEST(ReferenceBrowser, MiniBooksShowTheirPageAndOpenTheirChapters) {
   EXPECT_EQ(navigations, 2);
 }
 
+TEST(ReferenceBrowser, AStoreWithThreePicturesShowsTwoAndStillReadsItsAlsoSee) {
+  // Written by hand: the builder refuses a third picture, the reader must still cope with one.
+  Bench b;
+  TopicRecord three{"Three", "<P>x</P>", {{"a.png", "A"}, {"b.png", "B"}, {"c.png", "C"}}, {"other"}};
+  TopicRecord other{"Other", "<P>y</P>", {}, {}};
+  std::string store = topicStoreHeader();
+  const long first = static_cast<long>(store.size());
+  store += encodeTopicRecord(three);
+  const long second = static_cast<long>(store.size());
+  store += encodeTopicRecord(other);
+  writeFile(b.wb->folder.referenceFile("Zyth.enc"), store);
+  writeFile(b.wb->folder.referenceFile("ZythTOC.enc"), encodeTocFile({{first, "Three"}, {second, "Other"}}));
+  ReferenceBrowser br(*b.wb);
+  br.openTopicStore();
+  br.loadEncyclopediaTopics();
+  br.showFirstTopic();
+  EXPECT_NE(br.page.find("b.png"), std::string::npos);
+  EXPECT_EQ(br.page.find("c.png"), std::string::npos);
+  size_t tables = 0;
+  for (size_t at = br.page.find("<TABLE"); at != std::string::npos; at = br.page.find("<TABLE", at + 1)) ++tables;
+  EXPECT_EQ(tables, 2u);
+  ASSERT_EQ(br.trees[TreeAlsoSee].size(), 1u);
+  EXPECT_EQ(br.trees[TreeAlsoSee][0].text, "Other");
+  EXPECT_EQ(b.wb->errors.reportCount, 0);
+}
+
 TEST(ReferenceBrowser, TabsShowTheirPanels) {
   Loaded l;
   l.br.selectTab(TreeSearch);

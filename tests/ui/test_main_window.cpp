@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -24,6 +25,8 @@
 #include "ui/QtHttpFetch.h"
 #include "ui/UiSupport.h"
 #include "ui/dlgSelectFolder.h"
+#include "ui/QtPrompter.h"
+#include "ui/frmAbout.h"
 #include "ui/frmHelp.h"
 #include "ui/frmMain.h"
 
@@ -83,6 +86,29 @@ TEST(MainWindow, TopicsHistoryAndGoBack) {
   EXPECT_EQ(b.w->lblTitle->text(), "Yeast");
   EXPECT_EQ(b.texts(TreeHistory).size(), 3);
   EXPECT_TRUE(b.w->cmdGoBack->isEnabled());
+}
+
+TEST(MainWindow, SwitchingTabsShowsNoTopic) {
+  // The focus passing to a tree that has no current node must not open its first topic.
+  MainBench b;
+  b.w->activateWindow();
+  clickItem(b.tree(0), b.tree(0)->topLevelItem(1));  // Hops; the list has the focus
+  ASSERT_EQ(b.texts(TreeHistory), QStringList({"Hops", "Barley Malt"}));
+  for (int tab : {TreeMiniBooks, TreeHistory, TreeAlsoSee, TreeSearch, TreeAllTopics}) {
+    QTest::mouseClick(b.w->tabTopics, Qt::LeftButton, Qt::NoModifier, b.w->tabTopics->tabRect(tab).center());
+    b.w->tvwTopics[static_cast<size_t>(tab)]->setFocus();
+    QApplication::processEvents();
+    EXPECT_EQ(b.w->lblTitle->text(), "Hops") << tab;
+  }
+  EXPECT_EQ(b.texts(TreeHistory), QStringList({"Hops", "Barley Malt"}));
+  EXPECT_EQ(b.tree(TreeHistory)->currentItem()->text(0), "Hops");
+  // The arrow keys still walk the list, and a later click on the node they reached shows it.
+  QTest::keyClick(b.tree(0), Qt::Key_Down);
+  EXPECT_EQ(b.w->lblTitle->text(), "Mashing");
+  b.w->cmdGoBack->click();
+  EXPECT_EQ(b.w->lblTitle->text(), "Hops");
+  clickItem(b.tree(0), b.tree(0)->topLevelItem(2));
+  EXPECT_EQ(b.w->lblTitle->text(), "Mashing");
 }
 
 TEST(MainWindow, AlsoSeeListAndOriginalTopic) {
@@ -173,6 +199,20 @@ TEST(MainWindow, MenusAndToolbar) {
   b.w->tbRecipes->trigger();
   EXPECT_EQ(opened, 1);
   EXPECT_EQ(b.w->mnuHelpAbout->text(), "&About Zythara 2");
+  // The about box: the version text and the legal line.
+  QString aboutTitle, aboutVersion, aboutLegal;
+  whenModalOpens([&](QWidget* box) {
+    auto* about = qobject_cast<frmAbout*>(box);
+    ASSERT_NE(about, nullptr);
+    aboutTitle = about->windowTitle();
+    aboutVersion = about->lblVersion->text();
+    aboutLegal = about->lblLegal->text().replace(QChar(0x00A0), ' ');
+    about->accept();
+  });
+  b.w->mnuHelpAbout->trigger();
+  EXPECT_EQ(aboutTitle, "About Zythara 2");
+  EXPECT_EQ(aboutVersion, QString::fromStdString("Version " + versionText()));
+  EXPECT_EQ(aboutLegal, qs(legalLine()));
   b.w->mnuViewToolbar->trigger();
   EXPECT_FALSE(b.w->tbToolBar->isVisible());
   b.w->mnuViewStatusBar->trigger();
@@ -242,6 +282,18 @@ TEST(MainWindow, BackupThroughTheFolderPickerThenRestoreFromAnEmptyFolder) {
   EXPECT_EQ(b.prompter.shown.back().text,
             "No Backup Files in this Folder, Be Sure to Double-Click the Desired Folder");
   EXPECT_EQ(readFile(b.wb->folder.dataFile(kRecipeFile)), std::string("data ") + kRecipeFile);
+
+  // A folder whose name has accented letters is the folder of that name on the disk.
+  const std::string accented = b.dir.file("Sauvegarde \xC3\xA9t\xC3\xA9");
+  whenModalOpens([&](QWidget* w) {
+    auto* dlg = qobject_cast<dlgSelectFolder*>(w);
+    ASSERT_NE(dlg, nullptr);
+    dlg->txtFolder->setText(QString::fromUtf8(accented.c_str()));
+    dlg->cmdOK->click();
+  });
+  b.w->mnuFileBackupDB->trigger();
+  EXPECT_EQ(readFile(accented + "/" + kRecipeFile), std::string("data ") + kRecipeFile);
+  EXPECT_EQ(b.settings.read("Settings", "Backup Path", ""), accented);
 }
 
 TEST(UpdateCheck, QtFetchAgainstALocalServer) {

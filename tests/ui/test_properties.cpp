@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
@@ -83,6 +84,13 @@ TEST(Properties, NumericBoxesFilterKeysAndReformatOnLeaving) {
   eff->insert("7x5");
   emit eff->textEdited(eff->text());
   EXPECT_EQ(eff->text(), "75");
+  // Delete comes with the character 127 on some keyboards; it edits, it is no key to refuse.
+  const int beeps = b.prompter.beeps;
+  eff->setCursorPosition(0);
+  QKeyEvent del(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, QString(QChar(127)));
+  QApplication::sendEvent(eff, &del);
+  EXPECT_EQ(eff->text(), "5");
+  EXPECT_EQ(b.prompter.beeps, beeps);
 }
 
 TEST(Properties, UnitSystemQuestionAndResets) {

@@ -16,6 +16,8 @@
 #include "ui/frmHelp.h"
 #include "ui/frmMain.h"
 #include "ui/frmProperties.h"
+#include "ui/QtPrompter.h"
+#include "ui/dlgSelectFolder.h"
 #include "ui/frmSplash.h"
 
 namespace zy::test {
@@ -86,6 +88,22 @@ TEST(Screenshots, EveryWindow) {
   frmAbout a;
   a.show();
   save(a, dir, "about");
+
+  dlgSelectFolder folders("Backup All Zythara Databases", b.dir.path().c_str());
+  folders.show();
+  QTest::qWait(400);  // the folders are read in the background
+  save(folders, dir, "select-folder");
+  folders.close();
+
+  // A message of two lines, as the restore ends.
+  whenModalOpens([&](QWidget* box) {
+    save(*box, dir, "message");
+    box->close();
+  });
+  QtPrompter qt(&w);
+  static_cast<Prompter&>(qt).message("The Full Database Restore Has Completed Successfully\r\n"
+                         "    Restart Zythara to Load Restored Databases",
+                         "Restore Zythara Databases", Icon::Information);
   w.close();
 }
 

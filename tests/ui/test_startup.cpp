@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
@@ -142,7 +143,7 @@ TEST(Startup, CommandLineSkipsTheWaitAndImportsTheRecipe) {
   w->close();
 }
 
-TEST(Startup, CommandLineNamingNoFileImportsNothingSilently) {
+TEST(Startup, CommandLineMissingFileImportsNothingARefusedOneStoresTheDefault) {
   StartBench b;
   SubMain start(*b.wb);
   frmMain* w = start.run(b.dir.file("nothing-here.zyr"), [](frmMain& m) { m.quitOnClose = false; });
@@ -150,6 +151,18 @@ TEST(Startup, CommandLineNamingNoFileImportsNothingSilently) {
   EXPECT_EQ(w->importedRecipe, 0);
   EXPECT_TRUE(b.prompter.shown.empty());
   w->close();
+
+  // A file the exchange reader refuses: its message, then, as the list's import does, the
+  // new-recipe default is stored and selected in its place.
+  const std::string junk = b.dir.file("junk.zyr");
+  writeFile(junk, "hello, world\r\n");
+  long no = importCommandLineRecipe(*b.wb, junk);
+  ASSERT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_EQ(b.prompter.shown[0].text, "Not a Recognized Zythara Recipe File");
+  ASSERT_GT(no, 0);
+  ASSERT_TRUE(loadRecipe(*b.wb, no));
+  EXPECT_EQ(trim(b.wb->recipe.rec.recipeName), "A Beer Recipe");
+  EXPECT_EQ(b.wb->recipeList.selectedKey, "R" + std::to_string(no));
 }
 
 TEST(Startup, ClickOnTheSplashEndsTheWaitAndAMissingHelpFileWarnsOnce) {
@@ -159,6 +172,8 @@ TEST(Startup, ClickOnTheSplashEndsTheWaitAndAMissingHelpFileWarnsOnce) {
   SubMain start(*b.wb);
   start.splashShown = [](frmSplash& s) {
     EXPECT_TRUE(s.isVisible());
+    EXPECT_EQ(s.findChild<QLabel*>("lblTitle")->text(), "Homebrewing Encyclopedia");
+    EXPECT_EQ(s.findChild<QLabel*>("lblVersion")->text(), QString::fromStdString("Version " + versionText()));
     QTimer::singleShot(300, &s, [&s] { QTest::mouseClick(&s, Qt::LeftButton); });
   };
   frmMain* w = start.run("", [](frmMain& m) { m.quitOnClose = false; });

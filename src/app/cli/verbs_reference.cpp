@@ -67,13 +67,17 @@ int verbBooks(Context& c) {
   return EXIT_DONE;
 }
 
+// The arguments reach the verbs as 8-bit text; a folder is a path of the file system, whose
+// names are UTF-8.
+std::string folderArgument(const std::string& arg8bit) { return cp1252ToUtf8(arg8bit); }
+
 int outcomeStatus(BackupOutcome o) {
   return (o == BackupOutcome::Done || o == BackupOutcome::Cancelled) ? EXIT_DONE : EXIT_REPORTED;
 }
 
 int verbBackup(Context& c) {
   if (c.args.size() > 1) return c.usage("backup [DIR]");
-  const std::string given = c.args.empty() ? std::string() : c.args[0];
+  const std::string given = c.args.empty() ? std::string() : folderArgument(c.args[0]);
   FolderPicker pick = [&](const std::string& title, const std::string& initial) -> std::optional<std::string> {
     (void)title;
     if (given.empty()) return initial;  // the proposed dated folder, confirmed
@@ -85,7 +89,7 @@ int verbBackup(Context& c) {
 
 int verbRestore(Context& c) {
   if (c.args.size() != 1) return c.usage("restore DIR");
-  const std::string given = c.args[0];
+  const std::string given = folderArgument(c.args[0]);
   FolderPicker pick = [&](const std::string&, const std::string&) -> std::optional<std::string> { return given; };
   return outcomeStatus(restoreAllDatabases(c.wb, pick));
 }
