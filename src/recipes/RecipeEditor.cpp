@@ -155,7 +155,10 @@ void RecipeEditor::populateRecipeForm() {
                          ? styleList[static_cast<size_t>(cboBeerStyle)].text
                          : std::string(kNotSpecifiedStyleEntry);
 
-  // 3. Volumes and unit labels.
+  // 3. Volumes and unit labels. A recipe read from an older exchange file may name no volume unit
+  // (code -1); it is shown and computed in the default unit rather than read past the table.
+  if (rec.volumeUnits < 0 || rec.volumeUnits >= static_cast<int>(m.volumeUnits.size()))
+    rec.volumeUnits = wb.defaults.volumeUnits;
   sheet.txtFermentVolume = formatNumber(rec.fermentVolume, "0.0");
   sheet.txtInitalBoilVolume = formatNumber(rec.boilVolume, "0.0");
   lblUnitType = listText(m.unitTypes, rec.unitType);
@@ -181,7 +184,18 @@ void RecipeEditor::populateRecipeForm() {
   sheet.grid.clear();
   const int count = std::clamp(rec.itemCount, 0, kMaxRecipeItems);
   for (int k = 0; k < count; ++k) {
-    const RecipeItemRecord& it = cur.items[static_cast<size_t>(k)];
+    RecipeItemRecord& it = cur.items[static_cast<size_t>(k)];
+    // Likewise an item without a unit takes its kind's default unit.
+    const int units = it.itemKind == KIND_MALT || it.itemKind == KIND_HOPS ? 4
+                      : it.itemKind == KIND_OTHER                         ? 14
+                                                                          : 4;
+    if (it.quantityUnits < 0 || it.quantityUnits >= units) {
+      const Defaults& d = wb.defaults;
+      it.quantityUnits = it.itemKind == KIND_MALT    ? d.maltUnits
+                         : it.itemKind == KIND_HOPS  ? d.hopsUnits
+                         : it.itemKind == KIND_OTHER ? d.otherUnits
+                                                     : d.yeastUnits;
+    }
     AddIngredient(it.itemKind, it.itemName, it.quantity, it.quantityUnits, it.unitCost, it.rating, it.detail,
                   it.mashFlag);
   }

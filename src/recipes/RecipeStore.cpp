@@ -257,6 +257,18 @@ bool deleteRecipe(Workbench& wb, long recipeNo) {
   return true;
 }
 
+RecipeSlot recipeSlotState(Workbench& wb, long recipeNo) {
+  try {
+    RecordFile f(wb.folder.dataFile(kRecipeFile), RecipeRecord::kLength);
+    std::string buf;
+    if (!f.read(recipeNo, buf)) return RecipeSlot::Missing;
+    if (!controlCodesValid(buf)) return RecipeSlot::Corrupted;
+    return getI16(buf, 2) > 0 ? RecipeSlot::Stored : RecipeSlot::Free;
+  } catch (const FileError&) {
+    return RecipeSlot::Missing;
+  }
+}
+
 bool scanRecipes(Workbench& wb, const std::function<void(long, const RecipeRecord&)>& visit,
                  const std::string& functionName) {
   std::unique_ptr<RecordFile> f;

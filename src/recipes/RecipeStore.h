@@ -40,6 +40,11 @@ bool deleteRecipe(Workbench& wb, long recipeNo);
 bool scanRecipes(Workbench& wb, const std::function<void(long recordNo, const RecipeRecord&)>& visit,
                  const std::string& functionName = "RecipeList!mnuSortBy_Click");
 
+// What record recipeNo of ZYRecipe.dat holds, read without touching the current recipe: nothing
+// (past the end), a free slot, a recipe, or a record with bad control codes.
+enum class RecipeSlot { Missing, Free, Stored, Corrupted };
+RecipeSlot recipeSlotState(Workbench& wb, long recipeNo);
+
 // commentCount of a comment: the integer part of length / 120 + 0.999.
 int commentCountFor(size_t commentLength);
 

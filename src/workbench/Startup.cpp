@@ -144,13 +144,8 @@ long importCommandLineRecipe(Workbench& wb, const std::string& path) {
   }
   // As the list's import: a file the reader refused still leaves the new-recipe default, which
   // is entered and saved like any other.
-  importRecipe(wb, f);
+  const long slot = wb.recipeList.importAndSave(wb, f);
   std::fclose(f);
-  long slot = findNextRecipeSlot(wb);
-  if (slot < 1) return 0;
-  wb.recipe.rec.recipeNo = static_cast<int>(slot);
-  addToRecipeList(wb, true);
-  if (!saveCurrentRecipe(wb)) return 0;
   return slot;
 }
 

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "cli/CliRunner.h"
+#include "core/paths.h"
 #include "core/text.h"
 
 using namespace zy;
@@ -117,4 +118,41 @@ TEST(CliList, ListFileOfEveryRecipeAndBadInput) {
   EXPECT_EQ(j.err, "[Zythara 2] Not a Recognized Zythara Recipe File\n");
   EXPECT_EQ(j.out, "3\tA Beer Recipe\n");
   EXPECT_EQ(lines(h.run({"scan"}).out).size(), 3u);
+}
+
+TEST(CliList, AnOlderFileWithoutUnitsOpensInTheDefaultUnits) {
+  CliHome h;
+  writeFile(h.dir.file("old.rec"),
+            "<Recipe_Format_1.0>\r\n<Recipe> Type=\"Ale\", Name=\"Old\"\r\n<Volume> Initial=6, Final=5\r\n"
+            "<Malt> Type=\"Pale\", Quantity=8, Extraction=1.036, Color=3\r\n"
+            "<Hops> Type=\"Fuggle\", Quantity=1, Alpha=5, BoilTime=60\r\n<End_Recipe_Format>\r\n");
+  ASSERT_EQ(h.run({"import", h.dir.file("old.rec")}).status, 0);
+  // The store keeps what the reader read: no unit.
+  CliResult d = h.run({"dump", "1"});
+  EXPECT_NE(d.out.find("\nvolumeUnits=-1\n"), std::string::npos);
+  EXPECT_NE(d.out.find("\nitem[0].quantityUnits=-1\n"), std::string::npos);
+  // The editor reads it in the default units (gallons, pounds, ounces) instead of ending.
+  CliResult c = h.run({"calc", "1"});
+  EXPECT_EQ(c.status, 0) << c.err;
+  EXPECT_TRUE(startsWith(c.out, "Color=3.8\nOG=1.046\nFG=1.013\nAlcohol=4.4\nIBU=22\n")) << c.out;
+}
+
+TEST(CliList, FreedSlotsAndFileNamesOutsideAscii) {
+  CliHome h;
+  writeFile(h.dir.file("M\xC3\xA4rzen.zyr"), kPorter);
+  CliResult i = h.run({"import", h.dir.file("M\xC3\xA4rzen.zyr")});
+  ASSERT_EQ(i.status, 0) << i.err;
+  CliResult e = h.run({"export", "1", h.dir.file("K\xC3\xB6lsch.zyr")});
+  EXPECT_EQ(e.status, 0) << e.err;
+  EXPECT_TRUE(fileExists(h.dir.file("K\xC3\xB6lsch.zyr")));
+  ASSERT_EQ(h.run({"delete", "1"}).status, 0);
+  for (const char* verb : {"dump", "calc", "match"}) {
+    CliResult r = h.run({verb, "1"});
+    EXPECT_EQ(r.status, 1) << verb;
+    EXPECT_EQ(r.err, std::string("zythara-cli: ") + verb + ": there is no recipe 1\n");
+    EXPECT_EQ(r.out, "");
+  }
+  CliResult x = h.run({"export", "1", h.dir.file("gone.zyr")});
+  EXPECT_EQ(x.err, "zythara-cli: export: there is no recipe 1\n");
+  EXPECT_FALSE(fileExists(h.dir.file("gone.zyr")));
 }

@@ -152,3 +152,15 @@ TEST(CliStore, ATerminatingErrorEndsWithStatusThree) {
   EXPECT_EQ(log[log.size() - 2], "Affecting File: " + h.dir.file("settings.ini"));  // where to mend it
   EXPECT_EQ(log.back(), "Terminating");
 }
+
+TEST(CliStore, ACorruptedRecordIsReportedNotHidden) {
+  CliHome h;
+  std::string bad = recipeBytes(2, "Broken", 0, 0);
+  bad[1545] = 0;
+  writeFile(h.data("ZYRecipe.dat"), recipeBytes(1, "Fine", 0, 0) + bad);
+  CliResult d = h.run({"dump", "2"});
+  EXPECT_EQ(d.status, 1);
+  EXPECT_EQ(d.err, "[Error] Corrupted Recipe Record in " + h.data("ZYRecipe.dat") +
+                       " at Line 2, No More Recipes Loaded\n");
+  EXPECT_EQ(h.run({"dump", "3"}).err, "zythara-cli: dump: there is no recipe 3\n");
+}

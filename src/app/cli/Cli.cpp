@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "core/numfmt.h"
+#include "recipes/RecipeStore.h"
 #include "core/text.h"
 
 namespace zy::cli {
@@ -37,6 +38,14 @@ void Context::print(const std::string& text8bit) const {
 int Context::usage(const std::string& text) const {
   std::fprintf(err, "usage: zythara-cli %s\n", text.c_str());
   return EXIT_USAGE;
+}
+
+bool requireStoredRecipe(Context& c, const char* verb, long n) {
+  // A corrupted record goes on to the load, which reports it.
+  const RecipeSlot state = recipeSlotState(c.wb, n);
+  if (state == RecipeSlot::Stored || state == RecipeSlot::Corrupted) return true;
+  std::fprintf(c.err, "zythara-cli: %s: there is no recipe %ld\n", verb, n);
+  return false;
 }
 
 bool parseWhole(const std::string& text, long& value) {
@@ -100,8 +109,11 @@ int run(const std::vector<std::string>& argv, std::FILE* out, std::FILE* err) {
   Workbench wb(root, settings, prompter, clock);
   wb.errors.setTerminationHook([](int n) { throw Terminated(n); });
 
-  Context ctx{wb, out, err, {}, yes};
-  for (size_t k = i + 1; k < argv.size(); ++k) ctx.args.push_back(utf8ToCp1252(argv[k]));
+  Context ctx{wb, out, err, {}, yes, {}};
+  for (size_t k = i + 1; k < argv.size(); ++k) {
+    ctx.args.push_back(utf8ToCp1252(argv[k]));
+    ctx.rawArgs.push_back(argv[k]);
+  }
   int status;
   try {
     wb.loadDefaults();

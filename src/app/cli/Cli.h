@@ -19,6 +19,9 @@ struct Context {
   std::FILE* err;
   std::vector<std::string> args;  // after the verb, converted to 8-bit text
   bool answerYes = true;
+  // The same arguments as given: file and folder names stay in the file system's own encoding.
+  std::vector<std::string> rawArgs;
+  const std::string& pathArg(size_t i) const { return rawArgs.at(i); }
 
   // Writes 8-bit text to standard output as UTF-8.
   void print(const std::string& text8bit) const;
@@ -42,6 +45,10 @@ const std::vector<Verb>& verbs();
 
 // Parses the options, builds the workbench, runs the verb. Used by main() and by tests.
 int run(const std::vector<std::string>& argv, std::FILE* out, std::FILE* err);
+
+// Checks that recipe n is in the store; otherwise (a free slot, or past the end of the file) says
+// so on standard error ("VERB: there is no recipe N") and gives false.
+bool requireStoredRecipe(Context& c, const char* verb, long n);
 
 // A whole number argument, or nothing.
 bool parseWhole(const std::string& text, long& value);

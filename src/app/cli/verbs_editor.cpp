@@ -16,9 +16,10 @@ void loadProgramTables(Workbench& wb) {
 }
 
 // Opens recipe `args[0]` in a fresh editor; EXIT_DONE when it opened.
-int openInEditor(Context& c, RecipeEditor& editor, const char* usage) {
+int openInEditor(Context& c, RecipeEditor& editor, const char* verb) {
   long n;
-  if (c.args.size() != 1 || !parseWhole(c.args[0], n) || n < 1 || n > 32767) return c.usage(usage);
+  if (c.args.size() != 1 || !parseWhole(c.args[0], n) || n < 1 || n > 32767) return c.usage(std::string(verb) + " N");
+  if (!requireStoredRecipe(c, verb, n)) return EXIT_REPORTED;
   loadProgramTables(c.wb);
   editor.initRecipeForm();
   return editor.openRecipe(n) ? EXIT_DONE : EXIT_REPORTED;
@@ -26,7 +27,7 @@ int openInEditor(Context& c, RecipeEditor& editor, const char* usage) {
 
 int verbCalc(Context& c) {
   RecipeEditor editor(c.wb);
-  if (int status = openInEditor(c, editor, "calc N"); status != EXIT_DONE) return status;
+  if (int status = openInEditor(c, editor, "calc"); status != EXIT_DONE) return status;
   const RecipeSheet& s = editor.sheet;
   c.line("Color=" + s.lblColor);
   c.line("OG=" + s.lblOG);
@@ -44,7 +45,7 @@ int verbCalc(Context& c) {
 
 int verbMatch(Context& c) {
   RecipeEditor editor(c.wb);
-  if (int status = openInEditor(c, editor, "match N"); status != EXIT_DONE) return status;
+  if (int status = openInEditor(c, editor, "match"); status != EXIT_DONE) return status;
   for (const std::string& l : editor.openStyleMatch().lines()) c.line(l);
   return EXIT_DONE;
 }

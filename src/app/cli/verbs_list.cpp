@@ -64,9 +64,9 @@ int verbTree(Context& c) {
 
 int verbImport(Context& c) {
   if (c.args.size() != 1) return c.usage("import FILE");
-  const std::string& path = c.args[0];
+  const std::string& path = c.pathArg(0);
   if (!fileExists(path)) {
-    std::fprintf(c.err, "zythara-cli: import: no such file: %s\n", cp1252ToUtf8(path).c_str());
+    std::fprintf(c.err, "zythara-cli: import: no such file: %s\n", path.c_str());
     return EXIT_USAGE;
   }
   // The tree first, so that uniqueName and the numbering see every stored recipe.
@@ -80,10 +80,10 @@ int verbImport(Context& c) {
 int verbExport(Context& c) {
   long n;
   if (c.args.size() != 2 || !parseWhole(c.args[0], n) || n < 1) return c.usage("export N FILE");
-  if (!loadRecipe(c.wb, n)) return EXIT_REPORTED;
-  std::FILE* f = std::fopen(c.args[1].c_str(), "wb");
+  if (!requireStoredRecipe(c, "export", n) || !loadRecipe(c.wb, n)) return EXIT_REPORTED;
+  std::FILE* f = std::fopen(c.pathArg(1).c_str(), "wb");
   if (!f) {
-    std::fprintf(c.err, "zythara-cli: export: cannot write %s: %s\n", cp1252ToUtf8(c.args[1]).c_str(),
+    std::fprintf(c.err, "zythara-cli: export: cannot write %s: %s\n", c.pathArg(1).c_str(),
                  std::strerror(errno));
     return EXIT_REPORTED;
   }

@@ -69,15 +69,13 @@ int verbBooks(Context& c) {
 
 // The arguments reach the verbs as 8-bit text; a folder is a path of the file system, whose
 // names are UTF-8.
-std::string folderArgument(const std::string& arg8bit) { return cp1252ToUtf8(arg8bit); }
-
 int outcomeStatus(BackupOutcome o) {
   return (o == BackupOutcome::Done || o == BackupOutcome::Cancelled) ? EXIT_DONE : EXIT_REPORTED;
 }
 
 int verbBackup(Context& c) {
   if (c.args.size() > 1) return c.usage("backup [DIR]");
-  const std::string given = c.args.empty() ? std::string() : folderArgument(c.args[0]);
+  const std::string given = c.args.empty() ? std::string() : c.pathArg(0);
   FolderPicker pick = [&](const std::string& title, const std::string& initial) -> std::optional<std::string> {
     (void)title;
     if (given.empty()) return initial;  // the proposed dated folder, confirmed
@@ -89,7 +87,7 @@ int verbBackup(Context& c) {
 
 int verbRestore(Context& c) {
   if (c.args.size() != 1) return c.usage("restore DIR");
-  const std::string given = folderArgument(c.args[0]);
+  const std::string given = c.pathArg(0);
   FolderPicker pick = [&](const std::string&, const std::string&) -> std::optional<std::string> { return given; };
   return outcomeStatus(restoreAllDatabases(c.wb, pick));
 }
@@ -97,7 +95,7 @@ int verbRestore(Context& c) {
 int verbCheckUpdate(Context& c) {
   if (c.args.size() > 1) return c.usage("check-update [URL]");
   SocketHttpFetch http;
-  UpdateResult r = checkForUpdate(c.wb, http, c.args.empty() ? std::string() : c.args[0]);
+  UpdateResult r = checkForUpdate(c.wb, http, c.args.empty() ? std::string() : c.pathArg(0));
   switch (r.outcome) {
     case UpdateOutcome::NotDue: c.line("not due"); break;
     case UpdateOutcome::Newer: c.line("newer " + r.remoteVersion); break;

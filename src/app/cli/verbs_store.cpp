@@ -103,7 +103,7 @@ void dumpItem(const Context& c, int k, const RecipeItemRecord& it) {
 int verbDump(Context& c) {
   long n;
   if (c.args.size() != 1 || !parseWhole(c.args[0], n) || n < 1) return c.usage("dump N");
-  if (!loadRecipe(c.wb, n)) return EXIT_REPORTED;
+  if (!requireStoredRecipe(c, "dump", n) || !loadRecipe(c.wb, n)) return EXIT_REPORTED;
   const CurrentRecipe& cur = c.wb.recipe;
   dumpRecord(c, cur.rec);
   int count = std::max(0, std::min(cur.rec.itemCount, kMaxRecipeItems));
