@@ -27,7 +27,7 @@ double SystemClock::now() const {
 Answer ConsolePrompter::message(const std::string& text, const std::string& title, Icon, Buttons buttons,
                                 Answer) {
   ++count_;
-  std::fprintf(out_, "[%s] %s\n", cp1252ToUtf8(title).c_str(), cp1252ToUtf8(text).c_str());
+  std::fprintf(out_, "[%s] %s\n", displayUtf8(title).c_str(), displayUtf8(text).c_str());
   std::fflush(out_);
   switch (buttons) {
     case Buttons::YesNo:
@@ -43,7 +43,7 @@ Answer ConsolePrompter::message(const std::string& text, const std::string& titl
 std::optional<std::string> ConsolePrompter::input(const std::string& prompt, const std::string& title,
                                                   const std::string& initial) {
   ++count_;
-  std::fprintf(out_, "[%s] %s\n", cp1252ToUtf8(title).c_str(), cp1252ToUtf8(prompt).c_str());
+  std::fprintf(out_, "[%s] %s\n", displayUtf8(title).c_str(), displayUtf8(prompt).c_str());
   if (!yes_) return std::nullopt;
   return initial;
 }

@@ -171,6 +171,24 @@ std::string utf8ToCp1252(std::string_view s) {
   return out;
 }
 
+namespace {
+bool isMultibyteUtf8(std::string_view s) {
+  bool multibyte = false;
+  for (size_t i = 0; i < s.size();) {
+    auto c = static_cast<unsigned char>(s[i]);
+    size_t len = c < 0x80 ? 1 : (c >> 5) == 6 ? 2 : (c >> 4) == 14 ? 3 : (c >> 3) == 30 ? 4 : 0;
+    if (len == 0 || i + len > s.size() || (len == 2 && c < 0xC2)) return false;
+    for (size_t k = 1; k < len; ++k)
+      if ((static_cast<unsigned char>(s[i + k]) >> 6) != 2) return false;
+    multibyte = multibyte || len > 1;
+    i += len;
+  }
+  return multibyte;
+}
+}  // namespace
+
+std::string displayUtf8(std::string_view s) { return isMultibyteUtf8(s) ? std::string(s) : cp1252ToUtf8(s); }
+
 std::string itos(long long v) { return std::to_string(v); }
 
 }  // namespace zy

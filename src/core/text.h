@@ -27,6 +27,9 @@ std::string fixedText(std::string_view s, size_t n);
 // Windows-1252 <-> UTF-8. Characters with no Windows-1252 form become '?'.
 std::string cp1252ToUtf8(std::string_view s);
 std::string utf8ToCp1252(std::string_view s);
+// Text as shown to the user (window or terminal): Windows-1252 converted to UTF-8, except a text
+// that is already well-formed UTF-8 beyond ASCII, which is what file names from the system are.
+std::string displayUtf8(std::string_view s);
 
 // Integer to text, as the original's Str$/CStr without a leading blank.
 std::string itos(long long v);

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <algorithm>
+#include <QFile>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
@@ -12,7 +13,7 @@
 
 namespace zy {
 
-QString qs(const std::string& text8bit) { return QString::fromStdString(cp1252ToUtf8(text8bit)); }
+QString qs(const std::string& text8bit) { return QString::fromStdString(displayUtf8(text8bit)); }
 std::string s8(const QString& text) { return utf8ToCp1252(text.toStdString()); }
 
 QString qtFilter(const std::string& filter) {
@@ -92,14 +93,14 @@ std::optional<std::string> QtPrompter::openFile(const std::string& title, const 
                                                 const std::string& initialPath) {
   QString f = QFileDialog::getOpenFileName(parent_, qs(title), qs(initialPath), qtFilter(filter));
   if (f.isEmpty()) return std::nullopt;
-  return s8(f);
+  return QFile::encodeName(f).toStdString();  // a path stays in the file system's encoding
 }
 
 std::optional<std::string> QtPrompter::saveFile(const std::string& title, const std::string& filter,
                                                 const std::string& initialPath) {
   QString f = QFileDialog::getSaveFileName(parent_, qs(title), qs(initialPath), qtFilter(filter));
   if (f.isEmpty()) return std::nullopt;
-  return s8(f);
+  return QFile::encodeName(f).toStdString();  // a path stays in the file system's encoding
 }
 
 std::optional<std::string> QtPrompter::chooseFolder(const std::string& title, const std::string& initialPath) {

@@ -25,6 +25,13 @@ TEST(Text, Windows1252RoundTrip) {
   EXPECT_EQ(zy::lower("K\xD6LSCH"), "k\xF6lsch");
 }
 
+TEST(Text, DisplayTextTakesFileNamesAsTheyAre) {
+  EXPECT_EQ(zy::displayUtf8("K\xF6lsch"), "K\u00f6lsch");                   // 8-bit text
+  EXPECT_EQ(zy::displayUtf8("/home/k\xC3\xB6lsch/Data"), "/home/k\u00f6lsch/Data");  // a UTF-8 path
+  EXPECT_EQ(zy::displayUtf8("plain"), "plain");
+  EXPECT_EQ(zy::displayUtf8("10\xB0" "F"), "10\u00b0F");
+}
+
 TEST(Text, CollationPutsAccentedNamesBesideTheirPlainOnes) {
   std::vector<std::string> names = {"Munich Helles", "M\xE4rzen", "Maibock", "k\xF6lsch", "Kellerbier",
                                     "Bi\xE8re de Garde", "Berliner Weisse", "\xC6" "bleskiver"};

@@ -31,7 +31,7 @@ VerbRegistrar::VerbRegistrar(const char* name, const char* usage, VerbFn fn) {
 const std::vector<Verb>& verbs() { return registry(); }
 
 void Context::print(const std::string& text8bit) const {
-  std::string u = cp1252ToUtf8(text8bit);
+  std::string u = displayUtf8(text8bit);
   std::fwrite(u.data(), 1, u.size(), out);
 }
 

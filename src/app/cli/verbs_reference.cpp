@@ -37,7 +37,7 @@ int verbTopic(Context& c) {
   loadBrowser(b);
   int i = b.findTopic(title);
   if (i < 0) {
-    std::fprintf(c.err, "zythara-cli: no topic has the index title %s\n", cp1252ToUtf8(title).c_str());
+    std::fprintf(c.err, "zythara-cli: no topic has the index title %s\n", displayUtf8(title).c_str());
     return EXIT_REPORTED;
   }
   b.selectNode({TreeAllTopics, i, -1});
