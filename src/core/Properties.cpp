@@ -20,6 +20,111 @@ const std::vector<std::string> kFontSizes = {"8",  "9",  "10", "11", "12", "14",
 const char* const kQuillChecks[5] = {"chkTitleText", "chkLabelText", "chkExtraText", "chkDate", "chkIDCode"};
 
 double num(const std::string& t) { return lenientValue(t); }
+
+// How each control stands for a default: a text box of text (cut to its length), of a number
+// (shown by the box's pattern; a percent box shows a fraction times 100), of a whole number, a
+// check box, or a list's selection.
+struct Binding {
+  enum Kind { Text, Number, Percent, Whole, Check, Combo };
+  const char* control;
+  Kind kind;
+  std::string Defaults::*text;
+  int Defaults::*whole;
+  double Defaults::*number;
+  int length;
+};
+
+const std::vector<Binding>& bindings() {
+  using B = Binding;
+  using D = Defaults;
+  static const std::vector<Binding> b = {
+      {"txtUserName", B::Text, &D::userName, nullptr, nullptr, 60},
+      {"txtInitials", B::Text, &D::userInitials, nullptr, nullptr, 3},
+      {"txtCompany", B::Text, &D::userCompany, nullptr, nullptr, 60},
+      {"txtPhone", B::Text, &D::userPhone, nullptr, nullptr, 30},
+      {"txtEMail", B::Text, &D::userEmail, nullptr, nullptr, 80},
+      {"chkAutoUpdate", B::Check, nullptr, &D::autoUpdate, nullptr, 0},
+      {"cboUnitType", B::Combo, nullptr, &D::unitMeasure, nullptr, 0},
+      {"cboVolumeUnits", B::Combo, nullptr, &D::volumeUnits, nullptr, 0},
+      {"cboMaltUnits", B::Combo, nullptr, &D::maltUnits, nullptr, 0},
+      {"cboHopsUnits", B::Combo, nullptr, &D::hopsUnits, nullptr, 0},
+      {"cboOtherUnits", B::Combo, nullptr, &D::otherUnits, nullptr, 0},
+      {"cboYeastUnits", B::Combo, nullptr, &D::yeastUnits, nullptr, 0},
+      {"cboSupplyUnits", B::Combo, nullptr, &D::supplyUnits, nullptr, 0},
+      {"cboSpargeUnits", B::Combo, nullptr, &D::spargeUnits, nullptr, 0},
+      {"chkShortNames", B::Check, nullptr, &D::shortFilenames, nullptr, 0},
+      {"chkUnixNames", B::Check, nullptr, &D::unixFilenames, nullptr, 0},
+      {"chkIncludeCost", B::Check, nullptr, &D::includeCost, nullptr, 0},
+      {"txtMashEfficiency", B::Number, nullptr, nullptr, &D::mashEff, 0},
+      {"txtBoilTime", B::Number, nullptr, nullptr, &D::boilTime, 0},
+      {"txtInitialBoilVolume", B::Number, nullptr, nullptr, &D::initialBoil, 0},
+      {"txtFermentVolume", B::Number, nullptr, nullptr, &D::initialFerm, 0},
+      {"txtMaltDef(0)", B::Text, &D::maltName, nullptr, nullptr, 50},
+      {"txtMaltDef(1)", B::Number, nullptr, nullptr, &D::maltQty, 0},
+      {"txtMaltDef(2)", B::Number, nullptr, nullptr, &D::maltCost, 0},
+      {"txtMaltDef(3)", B::Number, nullptr, nullptr, &D::maltExtraction, 0},
+      {"txtMaltDef(4)", B::Number, nullptr, nullptr, &D::maltColor, 0},
+      {"chkMash", B::Check, nullptr, &D::maltMash, nullptr, 0},
+      {"txtHopsDef(0)", B::Text, &D::hopsName, nullptr, nullptr, 50},
+      {"txtHopsDef(1)", B::Number, nullptr, nullptr, &D::hopsQty, 0},
+      {"txtHopsDef(2)", B::Number, nullptr, nullptr, &D::hopsCost, 0},
+      {"txtHopsDef(3)", B::Number, nullptr, nullptr, &D::hopsAlpha, 0},
+      {"txtHopsDef(4)", B::Number, nullptr, nullptr, &D::hopsBoil, 0},
+      {"txtOtherDef(0)", B::Text, &D::otherName, nullptr, nullptr, 50},
+      {"txtOtherDef(1)", B::Number, nullptr, nullptr, &D::otherQty, 0},
+      {"txtOtherDef(2)", B::Number, nullptr, nullptr, &D::otherCost, 0},
+      {"txtYeastDef(0)", B::Text, &D::yeastName, nullptr, nullptr, 50},
+      {"txtYeastDef(1)", B::Number, nullptr, nullptr, &D::yeastQty, 0},
+      {"txtYeastDef(2)", B::Number, nullptr, nullptr, &D::yeastCost, 0},
+      {"txtYeastDef(3)", B::Percent, nullptr, nullptr, &D::yeastAttenuation, 0},
+      {"txtSupplyDef(0)", B::Text, &D::supplyName, nullptr, nullptr, 50},
+      {"txtSupplyDef(1)", B::Number, nullptr, nullptr, &D::supplyQty, 0},
+      {"txtSupplyDef(2)", B::Number, nullptr, nullptr, &D::supplyCost, 0},
+      {"txtMaltIncr(0)", B::Number, nullptr, nullptr, &D::maltQtyIncr, 0},
+      {"txtMaltIncr(1)", B::Number, nullptr, nullptr, &D::maltCostIncr, 0},
+      {"txtMaltIncr(2)", B::Number, nullptr, nullptr, &D::maltExtractionIncr, 0},
+      {"txtMaltIncr(3)", B::Number, nullptr, nullptr, &D::maltColorIncr, 0},
+      {"txtHopsIncr(0)", B::Number, nullptr, nullptr, &D::hopsQtyIncr, 0},
+      {"txtHopsIncr(1)", B::Number, nullptr, nullptr, &D::hopsCostIncr, 0},
+      {"txtHopsIncr(2)", B::Number, nullptr, nullptr, &D::hopsAlphaIncr, 0},
+      {"txtHopsIncr(3)", B::Number, nullptr, nullptr, &D::hopsBoilIncr, 0},
+      {"txtOtherIncr(0)", B::Number, nullptr, nullptr, &D::otherQtyIncr, 0},
+      {"txtOtherIncr(1)", B::Number, nullptr, nullptr, &D::otherCostIncr, 0},
+      {"txtYeastIncr(0)", B::Number, nullptr, nullptr, &D::yeastQtyIncr, 0},
+      {"txtYeastIncr(1)", B::Number, nullptr, nullptr, &D::yeastCostIncr, 0},
+      {"txtYeastIncr(2)", B::Number, nullptr, nullptr, &D::yeastAttenuationIncr, 0},
+      {"txtSupplyIncr(0)", B::Number, nullptr, nullptr, &D::supplyQtyIncr, 0},
+      {"txtSupplyIncr(1)", B::Number, nullptr, nullptr, &D::supplyCostIncr, 0},
+      {"txtEvaporationRate", B::Number, nullptr, nullptr, &D::evaporationRate, 0},
+      {"txtMashPerLb", B::Number, nullptr, nullptr, &D::mashPerLbs, 0},
+      {"txtWaterAbsorbtion", B::Number, nullptr, nullptr, &D::waterAbsorption, 0},
+      {"txtSpargeRate", B::Number, nullptr, nullptr, &D::spargeRate, 0},
+      {"txtLeftInKettle", B::Number, nullptr, nullptr, &D::leftInKettle, 0},
+      {"txtKettleCapacity", B::Number, nullptr, nullptr, &D::kettleCapacity, 0},
+      {"chkHoldInitialVolume", B::Check, nullptr, &D::holdInitialVolume, nullptr, 0},
+      {"chkHoldFinalVolume", B::Check, nullptr, &D::holdFinalVolume, nullptr, 0},
+      {"chkFullBoil", B::Check, nullptr, &D::fullBoil, nullptr, 0},
+      {"txtCa", B::Whole, nullptr, &D::ionCa, nullptr, 0},
+      {"txtCl", B::Whole, nullptr, &D::ionCl, nullptr, 0},
+      {"txtCO3", B::Whole, nullptr, &D::ionCO3, nullptr, 0},
+      {"txtMg", B::Whole, nullptr, &D::ionMg, nullptr, 0},
+      {"txtNa", B::Whole, nullptr, &D::ionNa, nullptr, 0},
+      {"txtSO4", B::Whole, nullptr, &D::ionSO4, nullptr, 0},
+      {"txtGramInc", B::Number, nullptr, nullptr, &D::gramIncrement, 0},
+      {"txtTspInc", B::Number, nullptr, nullptr, &D::tspIncrement, 0},
+      {"txtThreshold", B::Percent, nullptr, nullptr, &D::threshold, 0},
+      {"chkActivateQuillmark", B::Check, nullptr, &D::activateQuillmark, nullptr, 0},
+      {"txtQuillmarkPath", B::Text, &D::quillmarkPath, nullptr, nullptr, 130},
+  };
+  return b;
+}
+
+const std::string& formatOf(const std::string& control) {
+  static const std::string none;
+  for (const auto& f : PropertiesModel::fields())
+    if (f.name == control) return f.format;
+  return none;
+}
 }  // namespace
 
 const std::vector<std::string>& PropertiesModel::pageCaptions() {
@@ -121,88 +226,18 @@ std::string PropertiesModel::comboText(const std::string& name) const {
 
 void PropertiesModel::fillFromDefaults(const Defaults& d) {
   loading = true;
-  auto set = [&](const std::string& n, double v) {
-    for (const auto& f : fields())
-      if (f.name == n) { texts_[n] = formatNumber(v, f.format); return; }
-  };
-  texts_["txtUserName"] = trim(d.userName);
-  texts_["txtInitials"] = trim(d.userInitials);
-  texts_["txtCompany"] = trim(d.userCompany);
-  texts_["txtPhone"] = trim(d.userPhone);
-  texts_["txtEMail"] = trim(d.userEmail);
-  checks_["chkAutoUpdate"] = d.autoUpdate != 0;
-  combos_["cboUnitType"] = d.unitMeasure;
+  for (const Binding& b : bindings()) {
+    switch (b.kind) {
+      case Binding::Text: texts_[b.control] = trim(d.*b.text); break;
+      case Binding::Number: texts_[b.control] = formatNumber(d.*b.number, formatOf(b.control)); break;
+      case Binding::Percent: texts_[b.control] = formatNumber(d.*b.number * 100.0, formatOf(b.control)); break;
+      case Binding::Whole: texts_[b.control] = formatNumber(d.*b.whole, formatOf(b.control)); break;
+      case Binding::Check: checks_[b.control] = d.*b.whole != 0; break;
+      case Binding::Combo: combos_[b.control] = d.*b.whole; break;
+    }
+  }
+  // The recipe type has a list but is never applied.
   combos_["cboRecipeType"] = d.recipeType;
-  combos_["cboVolumeUnits"] = d.volumeUnits;
-  combos_["cboMaltUnits"] = d.maltUnits;
-  combos_["cboHopsUnits"] = d.hopsUnits;
-  combos_["cboOtherUnits"] = d.otherUnits;
-  combos_["cboYeastUnits"] = d.yeastUnits;
-  combos_["cboSupplyUnits"] = d.supplyUnits;
-  combos_["cboSpargeUnits"] = d.spargeUnits;
-  checks_["chkShortNames"] = d.shortFilenames != 0;
-  checks_["chkUnixNames"] = d.unixFilenames != 0;
-  checks_["chkIncludeCost"] = d.includeCost != 0;
-  set("txtMashEfficiency", d.mashEff);
-  set("txtBoilTime", d.boilTime);
-  set("txtInitialBoilVolume", d.initialBoil);
-  set("txtFermentVolume", d.initialFerm);
-  texts_["txtMaltDef(0)"] = trim(d.maltName);
-  set("txtMaltDef(1)", d.maltQty);
-  set("txtMaltDef(2)", d.maltCost);
-  set("txtMaltDef(3)", d.maltExtraction);
-  set("txtMaltDef(4)", d.maltColor);
-  checks_["chkMash"] = d.maltMash != 0;
-  texts_["txtHopsDef(0)"] = trim(d.hopsName);
-  set("txtHopsDef(1)", d.hopsQty);
-  set("txtHopsDef(2)", d.hopsCost);
-  set("txtHopsDef(3)", d.hopsAlpha);
-  set("txtHopsDef(4)", d.hopsBoil);
-  texts_["txtOtherDef(0)"] = trim(d.otherName);
-  set("txtOtherDef(1)", d.otherQty);
-  set("txtOtherDef(2)", d.otherCost);
-  texts_["txtYeastDef(0)"] = trim(d.yeastName);
-  set("txtYeastDef(1)", d.yeastQty);
-  set("txtYeastDef(2)", d.yeastCost);
-  set("txtYeastDef(3)", d.yeastAttenuation * 100.0);
-  texts_["txtSupplyDef(0)"] = trim(d.supplyName);
-  set("txtSupplyDef(1)", d.supplyQty);
-  set("txtSupplyDef(2)", d.supplyCost);
-  set("txtMaltIncr(0)", d.maltQtyIncr);
-  set("txtMaltIncr(1)", d.maltCostIncr);
-  set("txtMaltIncr(2)", d.maltExtractionIncr);
-  set("txtMaltIncr(3)", d.maltColorIncr);
-  set("txtHopsIncr(0)", d.hopsQtyIncr);
-  set("txtHopsIncr(1)", d.hopsCostIncr);
-  set("txtHopsIncr(2)", d.hopsAlphaIncr);
-  set("txtHopsIncr(3)", d.hopsBoilIncr);
-  set("txtOtherIncr(0)", d.otherQtyIncr);
-  set("txtOtherIncr(1)", d.otherCostIncr);
-  set("txtYeastIncr(0)", d.yeastQtyIncr);
-  set("txtYeastIncr(1)", d.yeastCostIncr);
-  set("txtYeastIncr(2)", d.yeastAttenuationIncr);
-  set("txtSupplyIncr(0)", d.supplyQtyIncr);
-  set("txtSupplyIncr(1)", d.supplyCostIncr);
-  set("txtEvaporationRate", d.evaporationRate);
-  set("txtMashPerLb", d.mashPerLbs);
-  set("txtWaterAbsorbtion", d.waterAbsorption);
-  set("txtSpargeRate", d.spargeRate);
-  set("txtLeftInKettle", d.leftInKettle);
-  set("txtKettleCapacity", d.kettleCapacity);
-  checks_["chkHoldInitialVolume"] = d.holdInitialVolume != 0;
-  checks_["chkHoldFinalVolume"] = d.holdFinalVolume != 0;
-  checks_["chkFullBoil"] = d.fullBoil != 0;
-  set("txtCa", d.ionCa);
-  set("txtCl", d.ionCl);
-  set("txtCO3", d.ionCO3);
-  set("txtMg", d.ionMg);
-  set("txtNa", d.ionNa);
-  set("txtSO4", d.ionSO4);
-  set("txtGramInc", d.gramIncrement);
-  set("txtTspInc", d.tspIncrement);
-  set("txtThreshold", d.threshold * 100.0);
-  checks_["chkActivateQuillmark"] = d.activateQuillmark != 0;
-  texts_["txtQuillmarkPath"] = trim(d.quillmarkPath);
   const int includes[5] = {d.chkTitle, d.chkLabel, d.chkExtra, d.chkDate, d.chkIDCode};
   const std::string positions[5] = {d.posTitle, d.posLabel, d.posExtra, d.posDate, d.posIDCode};
   const std::string fonts[5] = {d.fontTitle, d.fontLabel, d.fontExtra, d.fontDate, d.fontIDCode};
@@ -384,83 +419,16 @@ bool PropertiesModel::applyNewDefaults(Defaults& d, ErrorLog& errors) const {
     return *v;
   };
   Defaults n = d;
-  n.userName = fixedText(text("txtUserName"), 60);
-  n.userInitials = fixedText(text("txtInitials"), 3);
-  n.userCompany = fixedText(text("txtCompany"), 60);
-  n.userPhone = fixedText(text("txtPhone"), 30);
-  n.userEmail = fixedText(text("txtEMail"), 80);
-  n.autoUpdate = check("chkAutoUpdate");
-  n.unitMeasure = combo("cboUnitType");
-  n.volumeUnits = combo("cboVolumeUnits");
-  n.maltUnits = combo("cboMaltUnits");
-  n.hopsUnits = combo("cboHopsUnits");
-  n.otherUnits = combo("cboOtherUnits");
-  n.yeastUnits = combo("cboYeastUnits");
-  n.supplyUnits = combo("cboSupplyUnits");
-  n.spargeUnits = combo("cboSpargeUnits");
-  n.shortFilenames = check("chkShortNames");
-  n.unixFilenames = check("chkUnixNames");
-  n.includeCost = check("chkIncludeCost");
-  n.mashEff = number("txtMashEfficiency");
-  n.boilTime = number("txtBoilTime");
-  n.initialBoil = number("txtInitialBoilVolume");
-  n.initialFerm = number("txtFermentVolume");
-  n.maltName = fixedText(text("txtMaltDef(0)"), 50);
-  n.maltQty = number("txtMaltDef(1)");
-  n.maltCost = number("txtMaltDef(2)");
-  n.maltExtraction = number("txtMaltDef(3)");
-  n.maltColor = number("txtMaltDef(4)");
-  n.maltMash = check("chkMash");
-  n.hopsName = fixedText(text("txtHopsDef(0)"), 50);
-  n.hopsQty = number("txtHopsDef(1)");
-  n.hopsCost = number("txtHopsDef(2)");
-  n.hopsAlpha = number("txtHopsDef(3)");
-  n.hopsBoil = number("txtHopsDef(4)");
-  n.otherName = fixedText(text("txtOtherDef(0)"), 50);
-  n.otherQty = number("txtOtherDef(1)");
-  n.otherCost = number("txtOtherDef(2)");
-  n.yeastName = fixedText(text("txtYeastDef(0)"), 50);
-  n.yeastQty = number("txtYeastDef(1)");
-  n.yeastCost = number("txtYeastDef(2)");
-  n.yeastAttenuation = number("txtYeastDef(3)") / 100.0;
-  n.supplyName = fixedText(text("txtSupplyDef(0)"), 50);
-  n.supplyQty = number("txtSupplyDef(1)");
-  n.supplyCost = number("txtSupplyDef(2)");
-  n.maltQtyIncr = number("txtMaltIncr(0)");
-  n.maltCostIncr = number("txtMaltIncr(1)");
-  n.maltExtractionIncr = number("txtMaltIncr(2)");
-  n.maltColorIncr = number("txtMaltIncr(3)");
-  n.hopsQtyIncr = number("txtHopsIncr(0)");
-  n.hopsCostIncr = number("txtHopsIncr(1)");
-  n.hopsAlphaIncr = number("txtHopsIncr(2)");
-  n.hopsBoilIncr = number("txtHopsIncr(3)");
-  n.otherQtyIncr = number("txtOtherIncr(0)");
-  n.otherCostIncr = number("txtOtherIncr(1)");
-  n.yeastQtyIncr = number("txtYeastIncr(0)");
-  n.yeastCostIncr = number("txtYeastIncr(1)");
-  n.yeastAttenuationIncr = number("txtYeastIncr(2)");
-  n.supplyQtyIncr = number("txtSupplyIncr(0)");
-  n.supplyCostIncr = number("txtSupplyIncr(1)");
-  n.evaporationRate = number("txtEvaporationRate");
-  n.mashPerLbs = number("txtMashPerLb");
-  n.waterAbsorption = number("txtWaterAbsorbtion");
-  n.spargeRate = number("txtSpargeRate");
-  n.leftInKettle = number("txtLeftInKettle");
-  n.kettleCapacity = number("txtKettleCapacity");
-  n.holdInitialVolume = check("chkHoldInitialVolume");
-  n.holdFinalVolume = check("chkHoldFinalVolume");
-  n.fullBoil = check("chkFullBoil");
-  n.ionCa = whole("txtCa");
-  n.ionCl = whole("txtCl");
-  n.ionCO3 = whole("txtCO3");
-  n.ionMg = whole("txtMg");
-  n.ionNa = whole("txtNa");
-  n.ionSO4 = whole("txtSO4");
-  n.gramIncrement = number("txtGramInc");
-  n.tspIncrement = number("txtTspInc");
-  n.threshold = number("txtThreshold") / 100.0;
-  n.activateQuillmark = check("chkActivateQuillmark");
-  n.quillmarkPath = fixedText(text("txtQuillmarkPath"), 130);
+  for (const Binding& b : bindings()) {
+    switch (b.kind) {
+      case Binding::Text: n.*b.text = fixedText(text(b.control), static_cast<size_t>(b.length)); break;
+      case Binding::Number: n.*b.number = number(b.control); break;
+      case Binding::Percent: n.*b.number = number(b.control) / 100.0; break;
+      case Binding::Whole: n.*b.whole = whole(b.control); break;
+      case Binding::Check: n.*b.whole = check(b.control); break;
+      case Binding::Combo: n.*b.whole = combo(b.control); break;
+    }
+  }
   int* includes[5] = {&n.chkTitle, &n.chkLabel, &n.chkExtra, &n.chkDate, &n.chkIDCode};
   std::string* positions[5] = {&n.posTitle, &n.posLabel, &n.posExtra, &n.posDate, &n.posIDCode};
   std::string* fonts[5] = {&n.fontTitle, &n.fontLabel, &n.fontExtra, &n.fontDate, &n.fontIDCode};
