@@ -14,20 +14,6 @@ using namespace zy;
 using namespace zy::test;
 
 namespace {
-RecipeItemRecord item(int kind, const std::string& name, double qty, int units, double cost, double rating,
-                      double detail, int mash = 0) {
-  RecipeItemRecord it;
-  it.itemKind = kind;
-  it.itemName = name;
-  it.quantity = qty;
-  it.quantityUnits = units;
-  it.unitCost = cost;
-  it.rating = rating;
-  it.detail = detail;
-  it.mashFlag = mash;
-  return it;
-}
-
 struct EditorBench {
   Bench b;
   Workbench& wb = *b.wb;
@@ -57,12 +43,12 @@ struct EditorBench {
     cur.rec.boilVolume = 5;
     cur.rec.mashType = 2;
     cur.rec.mashEfficiency = 75;  // opens as the default 80
-    cur.items[0] = item(KIND_MALT, "Pale Malt", 8, UNIT_LBS, 1.10, 1.036, 3, -1);
-    cur.items[1] = item(KIND_MALT, "Crystal 60", 1, UNIT_LBS, 1.60, 1.034, 60, 0);
-    cur.items[2] = item(KIND_HOPS, "Cascade", 1, UNIT_OZ, 1.25, 5.5, 60);
-    cur.items[3] = item(KIND_HOPS, "Centennial", 0.5, UNIT_OZ, 1.50, 10.0, 15);
-    cur.items[4] = item(KIND_OTHER, "Irish Moss", 1, 5, 0.35, 0, 0);
-    cur.items[5] = item(KIND_YEAST, "American Ale", 1, 0, 4.99, 0.75, 0);
+    cur.items[0] = makeItem(KIND_MALT, "Pale Malt", 8, UNIT_LBS, 1.10, 1.036, 3, -1);
+    cur.items[1] = makeItem(KIND_MALT, "Crystal 60", 1, UNIT_LBS, 1.60, 1.034, 60, 0);
+    cur.items[2] = makeItem(KIND_HOPS, "Cascade", 1, UNIT_OZ, 1.25, 5.5, 60);
+    cur.items[3] = makeItem(KIND_HOPS, "Centennial", 0.5, UNIT_OZ, 1.50, 10.0, 15);
+    cur.items[4] = makeItem(KIND_OTHER, "Irish Moss", 1, 5, 0.35, 0, 0);
+    cur.items[5] = makeItem(KIND_YEAST, "American Ale", 1, 0, 4.99, 0.75, 0);
     cur.rec.itemCount = 6;
     cur.comment = "A fine amber.";
     if (extra) extra(cur);

@@ -14,20 +14,7 @@ namespace zy {
 namespace {
 
 using test::Bench;
-
-RecipeItemRecord item(int kind, const std::string& name, double qty, int units, double cost, double rating,
-                      double detail, int mash = 0) {
-  RecipeItemRecord it;
-  it.itemKind = kind;
-  it.itemName = name;
-  it.quantity = qty;
-  it.quantityUnits = units;
-  it.unitCost = cost;
-  it.rating = rating;
-  it.detail = detail;
-  it.mashFlag = mash;
-  return it;
-}
+using test::makeItem;
 
 // A metric step-infusion lager with one item of every kind and every optional line.
 void fillMaerzen(Workbench& wb) {
@@ -73,11 +60,11 @@ void fillMaerzen(Workbench& wb) {
   r.agingUnits = 1;
   r.agingTemp = 2;
   r.itemCount = 5;
-  wb.recipe.items[0] = item(KIND_MALT, "Munich, light", 4.5, UNIT_KG, 2.1, 1.037, 9, -1);
-  wb.recipe.items[1] = item(KIND_MALT, "Liquid Extract", 1, UNIT_LBS, 0, 1.036, 3, -1);
-  wb.recipe.items[2] = item(KIND_HOPS, "Hallertau ~ Mittelfr\xFCh", 28.35, UNIT_GR, 0.1, 4.25, 60);
-  wb.recipe.items[3] = item(KIND_OTHER, "Irish Moss", 1, 5, 0.5, 0, 0);
-  wb.recipe.items[4] = item(KIND_YEAST, "Lager Yeast", 1, 1, 6, 0.955, 0);
+  wb.recipe.items[0] = makeItem(KIND_MALT, "Munich, light", 4.5, UNIT_KG, 2.1, 1.037, 9, -1);
+  wb.recipe.items[1] = makeItem(KIND_MALT, "Liquid Extract", 1, UNIT_LBS, 0, 1.036, 3, -1);
+  wb.recipe.items[2] = makeItem(KIND_HOPS, "Hallertau ~ Mittelfr\xFCh", 28.35, UNIT_GR, 0.1, 4.25, 60);
+  wb.recipe.items[3] = makeItem(KIND_OTHER, "Irish Moss", 1, 5, 0.5, 0, 0);
+  wb.recipe.items[4] = makeItem(KIND_YEAST, "Lager Yeast", 1, 1, 6, 0.955, 0);
   wb.recipe.comment = "He said \"prost\"\r\nLine two   ";
 }
 

@@ -30,14 +30,6 @@ struct Bytes {
   }
 };
 
-RecipeItemRecord item(int kind, const std::string& name, double qty) {
-  RecipeItemRecord it;
-  it.itemKind = kind;
-  it.itemName = name;
-  it.quantity = qty;
-  return it;
-}
-
 long recordCount(const std::string& path, size_t len) { return static_cast<long>(readFile(path).size() / len); }
 
 int ownerOf(const std::string& path, size_t len, long n) {
@@ -256,9 +248,9 @@ TEST(RecipeStore, ItemsAndCommentsAreRewrittenAndFreed) {
   newRecipeRecord(wb);
   wb.recipe.rec.recipeNo = static_cast<int>(findNextRecipeSlot(wb));
   wb.recipe.rec.itemCount = 3;
-  wb.recipe.items[0] = item(0, "Pale", 8);
-  wb.recipe.items[1] = item(1, "Cascade", 1);
-  wb.recipe.items[2] = item(3, "Ale Yeast", 1);
+  wb.recipe.items[0] = makeItem(0, "Pale", 8);
+  wb.recipe.items[1] = makeItem(1, "Cascade", 1);
+  wb.recipe.items[2] = makeItem(3, "Ale Yeast", 1);
   wb.recipe.comment = std::string(120, 'a') + "b";
   ASSERT_TRUE(saveCurrentRecipe(wb));
   EXPECT_EQ(wb.recipe.rec.commentCount, 2);
@@ -267,7 +259,7 @@ TEST(RecipeStore, ItemsAndCommentsAreRewrittenAndFreed) {
   wb.recipe.rec.recipeNo = static_cast<int>(findNextRecipeSlot(wb));
   EXPECT_EQ(wb.recipe.rec.recipeNo, 2);
   wb.recipe.rec.itemCount = 1;
-  wb.recipe.items[0] = item(0, "Munich", 2);
+  wb.recipe.items[0] = makeItem(0, "Munich", 2);
   ASSERT_TRUE(saveCurrentRecipe(wb));
   EXPECT_EQ(recordCount(items, 114), 4);
   EXPECT_EQ(recordCount(comments, 126), 2);
@@ -290,8 +282,8 @@ TEST(RecipeStore, ItemsAndCommentsAreRewrittenAndFreed) {
   // Recipe 2 grows to three items: the freed records 2 and 3 are reused, nothing appended.
   ASSERT_TRUE(loadRecipe(wb, 2));
   wb.recipe.rec.itemCount = 3;
-  wb.recipe.items[1] = item(0, "Crystal", 1);
-  wb.recipe.items[2] = item(1, "Fuggle", 1);
+  wb.recipe.items[1] = makeItem(0, "Crystal", 1);
+  wb.recipe.items[2] = makeItem(1, "Fuggle", 1);
   ASSERT_TRUE(saveCurrentRecipe(wb));
   EXPECT_EQ(recordCount(items, 114), 4);
   EXPECT_EQ(ownerOf(items, 114, 2), 2);
@@ -338,7 +330,7 @@ TEST(RecipeStore, TwentyFiveItemsFillTwentyFiveRecords) {
   newRecipeRecord(wb);
   wb.recipe.rec.recipeNo = 1;
   wb.recipe.rec.itemCount = 25;
-  for (int i = 0; i < 25; ++i) wb.recipe.items[i] = item(i % 4, "Item " + std::to_string(i), i);
+  for (int i = 0; i < 25; ++i) wb.recipe.items[i] = makeItem(i % 4, "Item " + std::to_string(i), i);
   ASSERT_TRUE(saveCurrentRecipe(wb));
   EXPECT_EQ(recordCount(b.dir.file("Data/ZYRItems.dat"), 114), 25);
   ASSERT_TRUE(loadRecipe(wb, 1));
@@ -354,8 +346,8 @@ TEST(RecipeStore, MissingItemsWarnAndCountOneMore) {
   newRecipeRecord(wb);
   wb.recipe.rec.recipeNo = 1;
   wb.recipe.rec.itemCount = 2;
-  wb.recipe.items[0] = item(0, "Pale", 8);
-  wb.recipe.items[1] = item(1, "Hallertau", 1);
+  wb.recipe.items[0] = makeItem(0, "Pale", 8);
+  wb.recipe.items[1] = makeItem(1, "Hallertau", 1);
   ASSERT_TRUE(saveCurrentRecipe(wb));
   // The record claims five items while two hang on it.
   std::string all = readFile(b.dir.file("Data/ZYRecipe.dat"));
@@ -376,7 +368,7 @@ TEST(RecipeStore, CorruptedRecordsStopTheOperationWithTheirErrors) {
     wb.recipe.rec.recipeNo = n;
     wb.recipe.rec.recipeName = "R" + std::to_string(n);
     wb.recipe.rec.itemCount = 1;
-    wb.recipe.items[0] = item(0, "Malt", n);
+    wb.recipe.items[0] = makeItem(0, "Malt", n);
     wb.recipe.comment = "note " + std::to_string(n);
     ASSERT_TRUE(saveCurrentRecipe(wb));
   }
@@ -445,8 +437,8 @@ TEST(RecipeStore, DeleteFreesEverythingButRemovesNothing) {
   newRecipeRecord(wb);
   wb.recipe.rec.recipeNo = 1;
   wb.recipe.rec.itemCount = 2;
-  wb.recipe.items[0] = item(0, "Pale", 8);
-  wb.recipe.items[1] = item(1, "Saaz", 1);
+  wb.recipe.items[0] = makeItem(0, "Pale", 8);
+  wb.recipe.items[1] = makeItem(1, "Saaz", 1);
   wb.recipe.comment = std::string(130, 'x');
   ASSERT_TRUE(saveCurrentRecipe(wb));
   ASSERT_TRUE(deleteRecipe(wb, 1));

@@ -74,6 +74,20 @@ Bench::Bench() : clock(serialFromCivil(2026, 11, 22, 10, 30, 0)) {
   wb->loadDefaults();
 }
 
+RecipeItemRecord makeItem(int kind, const std::string& name, double qty, int units, double cost, double rating,
+                          double detail, int mash) {
+  RecipeItemRecord it;
+  it.itemKind = kind;
+  it.itemName = name;
+  it.quantity = qty;
+  it.quantityUnits = units;
+  it.unitCost = cost;
+  it.rating = rating;
+  it.detail = detail;
+  it.mashFlag = mash;
+  return it;
+}
+
 std::string readFile(const std::string& path) {
   std::ifstream f(path, std::ios::binary);
   std::stringstream ss;

@@ -67,6 +67,10 @@ struct Bench {
   std::unique_ptr<Workbench> wb;
 };
 
+// An item record with every field a recipe's ingredient carries.
+RecipeItemRecord makeItem(int kind, const std::string& name, double qty, int units = 0, double cost = 0,
+                          double rating = 0, double detail = 0, int mash = 0);
+
 std::string readFile(const std::string& path);
 void writeFile(const std::string& path, const std::string& bytes);
 std::vector<std::string> readLines(const std::string& path);
