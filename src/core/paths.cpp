@@ -80,33 +80,43 @@ std::string userFolder(const char* xdgVar, const char* fallback) {
   return base;
 }
 
-void seed(const std::string& root, const std::string& installed) {
-  if (installed.empty() || !folderExists(installed)) return;
+// Gives a program folder the files the program ships, where they are missing: the encyclopedia,
+// the help and the style tables. The brewer's own data files are never copied.
+void seed(const std::string& root, const std::string& shipped) {
+  if (shipped.empty() || !folderExists(shipped)) return;
   std::error_code ec;
-  for (const char* sub : {kReferenceFolder, kDataFolder, "Help"}) {
-    fs::path src = fs::path(installed) / sub;
+  for (const char* sub : {kReferenceFolder, "Help"}) {
+    fs::path src = fs::path(shipped) / sub;
     if (!fs::is_directory(src, ec)) continue;
     fs::path dst = fs::path(root) / sub;
     fs::create_directories(dst, ec);
     for (auto& e : fs::recursive_directory_iterator(src, ec)) {
-      fs::path rel = fs::relative(e.path(), src, ec);
-      fs::path target = dst / rel;
+      fs::path target = dst / fs::relative(e.path(), src, ec);
       if (e.is_directory()) fs::create_directories(target, ec);
       else if (!fs::exists(target, ec)) fs::copy_file(e.path(), target, ec);
     }
+  }
+  fs::create_directories(fs::path(root) / kDataFolder, ec);
+  for (const char* name : {kCategoryFile, kStyleFile}) {
+    fs::path src = fs::path(shipped) / kDataFolder / name;
+    fs::path target = fs::path(root) / kDataFolder / name;
+    if (fs::is_regular_file(src, ec) && !fs::exists(target, ec)) fs::copy_file(src, target, ec);
   }
 }
 }  // namespace
 
 std::string chooseProgramFolder(const std::string& homeOption, const std::string& exeDir,
                                 const std::string& installedDataDir) {
-  if (!homeOption.empty()) return homeOption;
-  std::string env = envOr("ZYTHARA_HOME");
-  if (!env.empty()) return env;
-  if (!exeDir.empty() && fileExists(ProgramFolder(exeDir).referenceFile(kZythEnc))) return exeDir;
-  std::string root = userFolder("XDG_DATA_HOME", ".local/share") + "/zythara2";
-  makeFolders(root);
-  seed(root, installedDataDir);
+  const bool exeShips = !exeDir.empty() && fileExists(ProgramFolder(exeDir).referenceFile(kZythEnc));
+  const std::string shipped = !installedDataDir.empty() ? installedDataDir : exeShips ? exeDir : std::string();
+  std::string root = !homeOption.empty() ? homeOption : envOr("ZYTHARA_HOME");
+  if (root.empty() && exeShips) return exeDir;
+  if (root.empty()) root = userFolder("XDG_DATA_HOME", ".local/share") + "/zythara2";
+  // A folder of the brewer's choosing gets the shipped files it lacks.
+  if (!fileExists(ProgramFolder(root).referenceFile(kZythEnc)) && !shipped.empty()) {
+    makeFolders(root);
+    seed(root, shipped);
+  }
   return root;
 }
 

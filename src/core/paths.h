@@ -55,8 +55,9 @@ class ProgramFolder {
 
 // Chooses the program folder: the folder named by `homeOption` (--home) or the environment's
 // ZYTHARA_HOME; else the executable's folder when it holds Reference/Zyth.enc; else the per-user
-// data folder ($XDG_DATA_HOME/zythara2 or ~/.local/share/zythara2), seeded on first use from
-// `installedDataDir` (the installed Reference/ and style files) when given.
+// data folder ($XDG_DATA_HOME/zythara2 or ~/.local/share/zythara2). A chosen folder without the
+// encyclopedia gets the shipped files (Reference/, Help/, the style tables) from
+// `installedDataDir`, or from the executable's folder when that one holds them.
 std::string chooseProgramFolder(const std::string& homeOption, const std::string& executableDir,
                                 const std::string& installedDataDir = {});
 
