@@ -57,6 +57,7 @@ struct EditorBench {
 
   std::string data(const char* name) const { return readFile(wb.folder.dataFile(name)); }
   const ShownMessage* lastMessage() const { return b.prompter.shown.empty() ? nullptr : &b.prompter.shown.back(); }
+  std::vector<std::string> msgs() const { return shownLines(b.prompter); }
 };
 }  // namespace
 
@@ -180,11 +181,8 @@ TEST(RecipeEditor, NotApplicableValuesSaveAsZeroAndNoYeastGetsTheNotice) {
                                &t.e.sheet.lblIBU})
     EXPECT_EQ(*f, "N/A");
   ASSERT_TRUE(t.e.mnuFileSave_Click());
-  const ShownMessage* m = t.lastMessage();
-  ASSERT_NE(m, nullptr);
-  EXPECT_EQ(m->text, "NOTICE: There is no Yeast included in this recipe!");
-  EXPECT_EQ(m->title, "Zythara 2 Information");
-  EXPECT_EQ(m->icon, Icon::Information);
+  EXPECT_EQ(t.msgs(), std::vector<std::string>{"Zythara 2 Information: NOTICE: There is no Yeast included in this recipe!"});
+  EXPECT_EQ(t.lastMessage()->icon, Icon::Information);
   ASSERT_TRUE(loadRecipe(t.wb, 1));
   EXPECT_EQ(t.wb.recipe.rec.itemCount, 0);
   EXPECT_DOUBLE_EQ(t.wb.recipe.rec.originalGravity, 0);
@@ -212,10 +210,8 @@ TEST(RecipeEditor, TwentySixthIngredientEndsTheProgramWithoutTouchingTheFiles) {
   EXPECT_EQ(t.data(kRecipeItemsFile), items);
   EXPECT_EQ(t.data(kCommentFile), comments);
   EXPECT_TRUE(t.e.recipeChanged());
-  const ShownMessage* m = t.lastMessage();
-  ASSERT_NE(m, nullptr);
-  EXPECT_EQ(m->title, "Terminate Program");
-  EXPECT_EQ(m->text, "Error #9(Subscript out of range) in frmRecipe!mnuFileSave_Click at Line 0");
+  EXPECT_EQ(t.msgs(), std::vector<std::string>{
+                         "Terminate Program: Error #9(Subscript out of range) in frmRecipe!mnuFileSave_Click at Line 0"});
   const std::vector<std::string> log = readLines(t.wb.folder.file(kErrorLog));
   EXPECT_NE(std::find(log.begin(), log.end(), "In Function frmRecipe!mnuFileSave_Click"), log.end());
   EXPECT_NE(std::find(log.begin(), log.end(), "Terminating"), log.end());
@@ -432,9 +428,7 @@ TEST(RecipeEditor, DeleteAsksAndNewButtonsUseTheDefaults) {
   e.selectRow(2);
   t.b.prompter.answers = {Answer::No};
   e.cmdDeleteIngredient_Click();
-  ASSERT_NE(t.lastMessage(), nullptr);
-  EXPECT_EQ(t.lastMessage()->text, "Do you want to Delete \"Crystal 60\" from the Recipe?");
-  EXPECT_EQ(t.lastMessage()->title, "Delete Ingredient");
+  EXPECT_EQ(t.msgs(), std::vector<std::string>{"Delete Ingredient: Do you want to Delete \"Crystal 60\" from the Recipe?"});
   EXPECT_EQ(t.lastMessage()->buttons, Buttons::YesNo);
   EXPECT_EQ(e.sheet.grid.itemCount(), 6);
   EXPECT_FALSE(e.recipeChanged());
@@ -578,10 +572,7 @@ TEST(RecipeEditor, StylesKnownUnknownAndChosen) {
   EditorBench t;
   t.store(1, "Martian", [](CurrentRecipe& c) { c.rec.beerStyle = "Martian Red Ale"; });
   ASSERT_TRUE(t.e.openRecipe(1));
-  const ShownMessage* m = t.lastMessage();
-  ASSERT_NE(m, nullptr);
-  EXPECT_EQ(m->text, "Beer Style 'Martian Red Ale' is Not Recognized by Zythara");
-  EXPECT_EQ(m->title, "Unknown Beer Style");
+  EXPECT_EQ(t.msgs(), std::vector<std::string>{"Unknown Beer Style: Beer Style 'Martian Red Ale' is Not Recognized by Zythara"});
   EXPECT_EQ(t.e.cboBeerStyle, 0);
   EXPECT_EQ(t.e.cboBeerStyleText, "<Not A Recognized Beer Style>");
   EXPECT_EQ(t.wb.styles.CurrentStyleIndex, -1);
@@ -684,8 +675,7 @@ TEST(RecipeEditor, ClosingAsksWhenChanged) {
   t.e.setTitle("Amber Ale");
   t.b.prompter.answers = {Answer::Cancel};
   EXPECT_FALSE(t.e.queryClose());
-  EXPECT_EQ(t.lastMessage()->text, "Recipe has Changed, Save Changes?");
-  EXPECT_EQ(t.lastMessage()->title, "Save Recipe");
+  EXPECT_EQ(t.msgs(), std::vector<std::string>{"Save Recipe: Recipe has Changed, Save Changes?"});
   EXPECT_EQ(t.lastMessage()->buttons, Buttons::YesNoCancel);
   EXPECT_TRUE(t.e.recipeChanged());
 
