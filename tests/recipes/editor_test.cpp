@@ -55,6 +55,12 @@ struct EditorBench {
     ASSERT_TRUE(saveCurrentRecipe(wb));
   }
 
+  // Recipe 1, the amber, stored and opened.
+  void openAmber() {
+    store(1, "Amber");
+    ASSERT_TRUE(e.openRecipe(1));
+  }
+
   std::string data(const char* name) const { return readFile(wb.folder.dataFile(name)); }
   const ShownMessage* lastMessage() const { return b.prompter.shown.empty() ? nullptr : &b.prompter.shown.back(); }
   std::vector<std::string> msgs() const { return shownLines(b.prompter); }
@@ -63,8 +69,7 @@ struct EditorBench {
 
 TEST(RecipeEditor, PopulateShowsTheRecipeAndComputesIt) {
   EditorBench t;
-  t.store(1, "Amber");
-  ASSERT_TRUE(t.e.openRecipe(1));
+  t.openAmber();
   RecipeEditor& e = t.e;
   const IngredientTable& g = e.sheet.grid;
   EXPECT_EQ(e.txtTitle, "Amber");
@@ -282,8 +287,7 @@ TEST(RecipeEditor, FermentationFieldsTravelWithTheRecipe) {
 
 TEST(RecipeEditor, UnitChangeConvertsMaltAndHopsOnly) {
   EditorBench t;
-  t.store(1, "Amber");
-  ASSERT_TRUE(t.e.openRecipe(1));
+  t.openAmber();
   RecipeEditor& e = t.e;
   IngredientTable& g = e.sheet.grid;
   e.selectRow(2);  // Crystal 60, 1 lb at $1.60
@@ -335,8 +339,7 @@ TEST(RecipeEditor, QuantityStepsToTheNextAndPreviousFraction) {
   EXPECT_DOUBLE_EQ(previousQuantityStep(0, QtyStep::Quarter), -0.25);  // stands
 
   EditorBench t;
-  t.store(1, "Amber");
-  ASSERT_TRUE(t.e.openRecipe(1));
+  t.openAmber();
   t.e.selectRow(4);  // Cascade, 1 oz
   t.e.setQuantity("1.3");
   t.e.stepQuantity(QtyStep::Half, true);
@@ -422,8 +425,7 @@ TEST(RecipeEditor, MovesStayWithinTheSection) {
 
 TEST(RecipeEditor, DeleteAsksAndNewButtonsUseTheDefaults) {
   EditorBench t;
-  t.store(1, "Amber");
-  ASSERT_TRUE(t.e.openRecipe(1));
+  t.openAmber();
   RecipeEditor& e = t.e;
   e.selectRow(2);
   t.b.prompter.answers = {Answer::No};
@@ -464,8 +466,7 @@ TEST(RecipeEditor, DeleteAsksAndNewButtonsUseTheDefaults) {
 
 TEST(RecipeEditor, EditStripFollowsTheKindAndRecomputesByTheTable) {
   EditorBench t;
-  t.store(1, "Amber");
-  ASSERT_TRUE(t.e.openRecipe(1));
+  t.openAmber();
   RecipeEditor& e = t.e;
   e.selectRow(1);
   EXPECT_EQ(e.strip.lblExtraction, "Extraction Rating:");
@@ -503,8 +504,7 @@ TEST(RecipeEditor, EditStripFollowsTheKindAndRecomputesByTheTable) {
 
 TEST(RecipeEditor, VolumeChangeRefreshesBitternessOnly) {
   EditorBench t;
-  t.store(1, "Amber");
-  ASSERT_TRUE(t.e.openRecipe(1));
+  t.openAmber();
   t.e.setFermentVolume("10");
   EXPECT_EQ(t.e.sheet.lblOG, "1.053");    // stays, computed for 5 gallons
   EXPECT_EQ(t.e.sheet.lblColor, "15.8");
@@ -516,8 +516,7 @@ TEST(RecipeEditor, VolumeChangeRefreshesBitternessOnly) {
 
 TEST(RecipeEditor, EachEditRecomputesWhatItAffects) {
   EditorBench t;
-  t.store(1, "Amber");
-  ASSERT_TRUE(t.e.openRecipe(1));
+  t.openAmber();
   RecipeEditor& e = t.e;
   RecipeSheet& s = e.sheet;
   // Marks the three kinds of result, runs the edit and tells which were written again:
