@@ -92,13 +92,10 @@ TEST(HopsSettings, MissingKeysGiveTheRagerDefaults) {
   EXPECT_DOUBLE_EQ(h.Factor3, 0.02);
   EXPECT_EQ(h.UtilTable[4], 10.1);
 
-  s.write(S, "Title", "Tinseth");
-  s.write(S, "Utilization 1", "7.2");
-  s.write(S, "Utilization 18", "38.7");
-  s.write(S, "Gravity Adjustment", "2");
-  s.write(S, "Factor 1", "1.000");
-  s.write(S, "Factor 2", "0.000125");
-  s.write(S, "Factor 3", "junk");
+  for (auto [key, value] : {std::pair{"Title", "Tinseth"}, {"Utilization 1", "7.2"}, {"Utilization 18", "38.7"},
+                            {"Gravity Adjustment", "2"}, {"Factor 1", "1.000"}, {"Factor 2", "0.000125"},
+                            {"Factor 3", "junk"}})
+    s.write(S, key, value);
   LoadHopsUtilization(h, s);
   EXPECT_EQ(h.UtilTitle, "Tinseth");
   EXPECT_EQ(h.UtilTable[1], 7.2);
@@ -136,48 +133,31 @@ TEST(HopsEditor, LoadShowsTheStoredCurveAndFactors) {
 }
 
 TEST(HopsEditor, EditsAreClampedAndKeepTheCurveRising) {
-  HopsUtilizationEditor e = openedOnDefaults();
-  e.editCell(5, "50");
-  EXPECT_EQ(e.cells[5], "40.0");
-  for (int r = 6; r <= 18; ++r) EXPECT_EQ(e.cells[r], "40.0") << r;
-  EXPECT_EQ(e.lblTitle, "Custom Utilization Curve");
-
-  e = openedOnDefaults();
-  e.editCell(3, "12");
-  EXPECT_EQ(e.cells[3], "12.0");
-  EXPECT_EQ(e.cells[4], "12.0");  // 10.1 raised
-  EXPECT_EQ(e.cells[5], "12.1");  // already above
-  EXPECT_EQ(e.cells[1], "5.0");
-  EXPECT_EQ(e.cells[2], "6.0");
-
-  e = openedOnDefaults();
-  e.editCell(3, "3");
-  EXPECT_EQ(e.cells[1], "3.0");  // 5.0 and 6.0 lowered
-  EXPECT_EQ(e.cells[2], "3.0");
-  EXPECT_EQ(e.cells[3], "3.0");
-  EXPECT_EQ(e.cells[4], "10.1");
-
-  e = openedOnDefaults();
-  e.editCell(1, "-4");
-  EXPECT_EQ(e.cells[1], "0.0");
-  e.editCell(2, ".5");
-  EXPECT_EQ(e.cells[2], "0.5");
-
-  // The same value again changes neither the title nor the curve; the grid takes one decimal,
-  // so 18.84 is the same value as 18.8.
-  e = openedOnDefaults();
-  e.editCell(7, "18.80");
-  EXPECT_EQ(e.cells[7], "18.8");
-  e.editCell(7, "18.84");
-  EXPECT_EQ(e.cells[7], "18.8");
-  EXPECT_EQ(e.lblTitle, "Rager");
-  e.editCell(7, "18.86");
-  EXPECT_EQ(e.cells[7], "18.9");
-  EXPECT_EQ(e.lblTitle, "Custom Utilization Curve");
-  // Text that is no number reads as 0 and flattens the rows above.
-  e.editCell(2, "abc");
-  EXPECT_EQ(e.cells[2], "0.0");
-  EXPECT_EQ(e.cells[1], "0.0");
+  const std::string flat = " 30.0 30.0 30.0 30.0 30.0 30.0 30.0 30.0";  // rows 11 to 18 of the defaults
+  const std::string custom = "Custom Utilization Curve";
+  struct Case {
+    std::vector<std::pair<int, const char*>> edits;
+    std::string curve, title;
+  };
+  const std::vector<Case> cases = {
+      {{{5, "50"}}, "5.0 6.0 8.0 10.1 40.0 40.0 40.0 40.0 40.0 40.0 40.0 40.0 40.0 40.0 40.0 40.0 40.0 40.0", custom},  // 40 at most
+      // Rows below are raised, rows above lowered to keep the curve rising.
+      {{{3, "12"}}, "5.0 6.0 12.0 12.0 12.1 15.3 18.8 22.8 26.9 28.1" + flat, custom},
+      {{{3, "3"}}, "3.0 3.0 3.0 10.1 12.1 15.3 18.8 22.8 26.9 28.1" + flat, custom},
+      {{{1, "-4"}, {2, ".5"}}, "0.0 0.5 8.0 10.1 12.1 15.3 18.8 22.8 26.9 28.1" + flat, custom},
+      // The same value again changes neither the title nor the curve; the grid takes one decimal,
+      // so 18.84 is the same value as 18.8.
+      {{{7, "18.80"}, {7, "18.84"}}, "5.0 6.0 8.0 10.1 12.1 15.3 18.8 22.8 26.9 28.1" + flat, "Rager"},
+      {{{7, "18.86"}}, "5.0 6.0 8.0 10.1 12.1 15.3 18.9 22.8 26.9 28.1" + flat, custom},
+      // Text that is no number reads as 0 and flattens the rows above.
+      {{{2, "abc"}}, "0.0 0.0 8.0 10.1 12.1 15.3 18.8 22.8 26.9 28.1" + flat, custom},
+  };
+  for (const Case& c : cases) {
+    HopsUtilizationEditor e = openedOnDefaults();
+    for (auto [row, text] : c.edits) e.editCell(row, text);
+    EXPECT_EQ(curveText(e), c.curve) << c.edits[0].second;
+    EXPECT_EQ(e.lblTitle, c.title) << c.edits[0].second;
+  }
 }
 
 TEST(HopsEditor, PresetsKeepTheirTitleAndSetTheirFactors) {
@@ -293,14 +273,10 @@ TEST(HopsEditor, AcceptStoresEverythingCancelNothing) {
   EXPECT_EQ(h.UtilTable[4], 12.0);
   EXPECT_DOUBLE_EQ(h.Factor1, 1.06);
   EXPECT_DOUBLE_EQ(h.lookupUtilization(17.5), 0.12);  // derived arrays rebuilt
-  EXPECT_EQ(s.read(S, "Title", "?"), "Custom Utilization Curve");
-  EXPECT_EQ(s.read(S, "Utilization 3", "?"), "12");
-  EXPECT_EQ(s.read(S, "Utilization 4", "?"), "12");
-  EXPECT_EQ(s.read(S, "Utilization 6", "?"), "15.3");
-  EXPECT_EQ(s.read(S, "Gravity Adjustment", "?"), "1");
-  EXPECT_EQ(s.read(S, "Factor 1", "?"), "1.06");
-  EXPECT_EQ(s.read(S, "Factor 2", "?"), "0.2");
-  EXPECT_EQ(s.read(S, "Factor 3", "?"), "0.02");
+  for (auto [key, value] : {std::pair{"Title", "Custom Utilization Curve"}, {"Utilization 3", "12"},
+                            {"Utilization 4", "12"}, {"Utilization 6", "15.3"}, {"Gravity Adjustment", "1"},
+                            {"Factor 1", "1.06"}, {"Factor 2", "0.2"}, {"Factor 3", "0.02"}})
+    EXPECT_EQ(s.read(S, key, "?"), value) << key;
   EXPECT_EQ(s.writeCount, 23);
 
   HopsUtilization again;

@@ -55,15 +55,21 @@ struct EditorBench {
     ASSERT_TRUE(saveCurrentRecipe(wb));
   }
 
+  // Recipe 1, the amber, stored and opened.
+  void openAmber() {
+    store(1, "Amber");
+    ASSERT_TRUE(e.openRecipe(1));
+  }
+
   std::string data(const char* name) const { return readFile(wb.folder.dataFile(name)); }
   const ShownMessage* lastMessage() const { return b.prompter.shown.empty() ? nullptr : &b.prompter.shown.back(); }
+  std::vector<std::string> msgs() const { return shownLines(b.prompter); }
 };
 }  // namespace
 
 TEST(RecipeEditor, PopulateShowsTheRecipeAndComputesIt) {
   EditorBench t;
-  t.store(1, "Amber");
-  ASSERT_TRUE(t.e.openRecipe(1));
+  t.openAmber();
   RecipeEditor& e = t.e;
   const IngredientTable& g = e.sheet.grid;
   EXPECT_EQ(e.txtTitle, "Amber");
@@ -180,11 +186,8 @@ TEST(RecipeEditor, NotApplicableValuesSaveAsZeroAndNoYeastGetsTheNotice) {
                                &t.e.sheet.lblIBU})
     EXPECT_EQ(*f, "N/A");
   ASSERT_TRUE(t.e.mnuFileSave_Click());
-  const ShownMessage* m = t.lastMessage();
-  ASSERT_NE(m, nullptr);
-  EXPECT_EQ(m->text, "NOTICE: There is no Yeast included in this recipe!");
-  EXPECT_EQ(m->title, "Zythara 2 Information");
-  EXPECT_EQ(m->icon, Icon::Information);
+  EXPECT_EQ(t.msgs(), std::vector<std::string>{"Zythara 2 Information: NOTICE: There is no Yeast included in this recipe!"});
+  EXPECT_EQ(t.lastMessage()->icon, Icon::Information);
   ASSERT_TRUE(loadRecipe(t.wb, 1));
   EXPECT_EQ(t.wb.recipe.rec.itemCount, 0);
   EXPECT_DOUBLE_EQ(t.wb.recipe.rec.originalGravity, 0);
@@ -212,10 +215,8 @@ TEST(RecipeEditor, TwentySixthIngredientEndsTheProgramWithoutTouchingTheFiles) {
   EXPECT_EQ(t.data(kRecipeItemsFile), items);
   EXPECT_EQ(t.data(kCommentFile), comments);
   EXPECT_TRUE(t.e.recipeChanged());
-  const ShownMessage* m = t.lastMessage();
-  ASSERT_NE(m, nullptr);
-  EXPECT_EQ(m->title, "Terminate Program");
-  EXPECT_EQ(m->text, "Error #9(Subscript out of range) in frmRecipe!mnuFileSave_Click at Line 0");
+  EXPECT_EQ(t.msgs(), std::vector<std::string>{
+                         "Terminate Program: Error #9(Subscript out of range) in frmRecipe!mnuFileSave_Click at Line 0"});
   const std::vector<std::string> log = readLines(t.wb.folder.file(kErrorLog));
   EXPECT_NE(std::find(log.begin(), log.end(), "In Function frmRecipe!mnuFileSave_Click"), log.end());
   EXPECT_NE(std::find(log.begin(), log.end(), "Terminating"), log.end());
@@ -286,8 +287,7 @@ TEST(RecipeEditor, FermentationFieldsTravelWithTheRecipe) {
 
 TEST(RecipeEditor, UnitChangeConvertsMaltAndHopsOnly) {
   EditorBench t;
-  t.store(1, "Amber");
-  ASSERT_TRUE(t.e.openRecipe(1));
+  t.openAmber();
   RecipeEditor& e = t.e;
   IngredientTable& g = e.sheet.grid;
   e.selectRow(2);  // Crystal 60, 1 lb at $1.60
@@ -339,8 +339,7 @@ TEST(RecipeEditor, QuantityStepsToTheNextAndPreviousFraction) {
   EXPECT_DOUBLE_EQ(previousQuantityStep(0, QtyStep::Quarter), -0.25);  // stands
 
   EditorBench t;
-  t.store(1, "Amber");
-  ASSERT_TRUE(t.e.openRecipe(1));
+  t.openAmber();
   t.e.selectRow(4);  // Cascade, 1 oz
   t.e.setQuantity("1.3");
   t.e.stepQuantity(QtyStep::Half, true);
@@ -426,15 +425,12 @@ TEST(RecipeEditor, MovesStayWithinTheSection) {
 
 TEST(RecipeEditor, DeleteAsksAndNewButtonsUseTheDefaults) {
   EditorBench t;
-  t.store(1, "Amber");
-  ASSERT_TRUE(t.e.openRecipe(1));
+  t.openAmber();
   RecipeEditor& e = t.e;
   e.selectRow(2);
   t.b.prompter.answers = {Answer::No};
   e.cmdDeleteIngredient_Click();
-  ASSERT_NE(t.lastMessage(), nullptr);
-  EXPECT_EQ(t.lastMessage()->text, "Do you want to Delete \"Crystal 60\" from the Recipe?");
-  EXPECT_EQ(t.lastMessage()->title, "Delete Ingredient");
+  EXPECT_EQ(t.msgs(), std::vector<std::string>{"Delete Ingredient: Do you want to Delete \"Crystal 60\" from the Recipe?"});
   EXPECT_EQ(t.lastMessage()->buttons, Buttons::YesNo);
   EXPECT_EQ(e.sheet.grid.itemCount(), 6);
   EXPECT_FALSE(e.recipeChanged());
@@ -470,8 +466,7 @@ TEST(RecipeEditor, DeleteAsksAndNewButtonsUseTheDefaults) {
 
 TEST(RecipeEditor, EditStripFollowsTheKindAndRecomputesByTheTable) {
   EditorBench t;
-  t.store(1, "Amber");
-  ASSERT_TRUE(t.e.openRecipe(1));
+  t.openAmber();
   RecipeEditor& e = t.e;
   e.selectRow(1);
   EXPECT_EQ(e.strip.lblExtraction, "Extraction Rating:");
@@ -509,8 +504,7 @@ TEST(RecipeEditor, EditStripFollowsTheKindAndRecomputesByTheTable) {
 
 TEST(RecipeEditor, VolumeChangeRefreshesBitternessOnly) {
   EditorBench t;
-  t.store(1, "Amber");
-  ASSERT_TRUE(t.e.openRecipe(1));
+  t.openAmber();
   t.e.setFermentVolume("10");
   EXPECT_EQ(t.e.sheet.lblOG, "1.053");    // stays, computed for 5 gallons
   EXPECT_EQ(t.e.sheet.lblColor, "15.8");
@@ -522,8 +516,7 @@ TEST(RecipeEditor, VolumeChangeRefreshesBitternessOnly) {
 
 TEST(RecipeEditor, EachEditRecomputesWhatItAffects) {
   EditorBench t;
-  t.store(1, "Amber");
-  ASSERT_TRUE(t.e.openRecipe(1));
+  t.openAmber();
   RecipeEditor& e = t.e;
   RecipeSheet& s = e.sheet;
   // Marks the three kinds of result, runs the edit and tells which were written again:
@@ -578,10 +571,7 @@ TEST(RecipeEditor, StylesKnownUnknownAndChosen) {
   EditorBench t;
   t.store(1, "Martian", [](CurrentRecipe& c) { c.rec.beerStyle = "Martian Red Ale"; });
   ASSERT_TRUE(t.e.openRecipe(1));
-  const ShownMessage* m = t.lastMessage();
-  ASSERT_NE(m, nullptr);
-  EXPECT_EQ(m->text, "Beer Style 'Martian Red Ale' is Not Recognized by Zythara");
-  EXPECT_EQ(m->title, "Unknown Beer Style");
+  EXPECT_EQ(t.msgs(), std::vector<std::string>{"Unknown Beer Style: Beer Style 'Martian Red Ale' is Not Recognized by Zythara"});
   EXPECT_EQ(t.e.cboBeerStyle, 0);
   EXPECT_EQ(t.e.cboBeerStyleText, "<Not A Recognized Beer Style>");
   EXPECT_EQ(t.wb.styles.CurrentStyleIndex, -1);
@@ -684,8 +674,7 @@ TEST(RecipeEditor, ClosingAsksWhenChanged) {
   t.e.setTitle("Amber Ale");
   t.b.prompter.answers = {Answer::Cancel};
   EXPECT_FALSE(t.e.queryClose());
-  EXPECT_EQ(t.lastMessage()->text, "Recipe has Changed, Save Changes?");
-  EXPECT_EQ(t.lastMessage()->title, "Save Recipe");
+  EXPECT_EQ(t.msgs(), std::vector<std::string>{"Save Recipe: Recipe has Changed, Save Changes?"});
   EXPECT_EQ(t.lastMessage()->buttons, Buttons::YesNoCancel);
   EXPECT_TRUE(t.e.recipeChanged());
 

@@ -48,6 +48,15 @@ std::vector<std::string> shownTree(const RecipeList& list) {
 
 std::string recipeFile(const Bench& b) { return b.wb->folder.dataFile(kRecipeFile); }
 
+// A workbench with its recipe list; `store` saves a recipe at record `no`.
+struct ListTest : ::testing::Test {
+  Bench b;
+  Workbench& wb = *b.wb;
+  RecipeList& list = wb.recipeList;
+  void store(int no, const Stored& s) { zy::store(wb, no, s); }
+  std::vector<std::string> msgs() const { return test::shownLines(b.prompter); }
+};
+
 TEST(RecipeList, NumberingRuleReadsTheDigitsBackwards) {
   auto num = [](const std::string& s) { return RecipeList::numberedName(s).value_or("<overflow>"); };
   EXPECT_EQ(num("Amber"), "Amber 1");
@@ -66,12 +75,9 @@ TEST(RecipeList, NumberingRuleReadsTheDigitsBackwards) {
   EXPECT_EQ(num("Amber 5.2"), "Amber 5.3");      // 2.5 read backwards goes to the even neighbour 2
 }
 
-TEST(RecipeList, DoubledNamesAreNumberedByTagWhileTheFileKeepsItsName) {
-  Bench b;
-  Workbench& wb = *b.wb;
-  for (int i = 1; i <= 12; ++i) store(wb, i, {"Amber"});
-  store(wb, 13, {"Amber 9"});
-  RecipeList& list = wb.recipeList;
+TEST_F(ListTest, DoubledNamesAreNumberedByTagWhileTheFileKeepsItsName) {
+  for (int i = 1; i <= 12; ++i) store(i, {"Amber"});
+  store(13, {"Amber 9"});
   ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
   std::vector<std::string> tags;
   for (int i = 1; i <= 13; ++i) tags.push_back(list.tree.find("R" + itos(i))->tag);
@@ -96,11 +102,8 @@ TEST(RecipeList, DoubledNamesAreNumberedByTagWhileTheFileKeepsItsName) {
   EXPECT_EQ(list.lblTitle, " Sorted By Name: 14");
 }
 
-TEST(RecipeList, AChainOfNumberedNamesEndsWhenItsNumberOutgrowsSixteenBits) {
+TEST_F(ListTest, AChainOfNumberedNamesEndsWhenItsNumberOutgrowsSixteenBits) {
   // Amber, Amber 1 ... Amber 10, Amber 12, 22, 23, 33, 34 ... 99, 100, 102, 1202, 122022: 31 names.
-  Bench b;
-  Workbench& wb = *b.wb;
-  RecipeList& list = wb.recipeList;
   list.sortMode = SORT_BY_NAME;
   for (int no = 1; no <= 32; ++no) {
     wb.recipe.rec = RecipeRecord{};
@@ -113,17 +116,12 @@ TEST(RecipeList, AChainOfNumberedNamesEndsWhenItsNumberOutgrowsSixteenBits) {
   EXPECT_EQ(list.tree.find("R31")->tag, "Amber 122022");
   EXPECT_EQ(list.tree.find("R32"), nullptr);
   EXPECT_EQ(list.tree.tag, "31");
-  ASSERT_EQ(b.prompter.shown.size(), 1u);
-  EXPECT_EQ(b.prompter.shown[0].text, "In AddToRecipeList: Overflow");
-  EXPECT_EQ(b.prompter.shown[0].title, "Error");
+  EXPECT_EQ(test::shownLines(b.prompter), std::vector<std::string>{"Error: In AddToRecipeList: Overflow"});
 }
 
-TEST(RecipeList, FastDoubledNameCheckGivesTheResultsOfTheFullWalk) {
+TEST_F(ListTest, FastDoubledNameCheckGivesTheResultsOfTheFullWalk) {
   // A reference that walks every node's Tag after each renaming, against the model, over random
   // adds, deletes and renames of names whose numbering chains run into each other.
-  Bench b;
-  Workbench& wb = *b.wb;
-  RecipeList& list = wb.recipeList;
   list.sortMode = SORT_BY_STYLE;
   const std::vector<std::string> pool = {"Amber", "Amber 1", "Amber 9", "Amber 10", "Parent", "Stout 12",
                                          "Ale 10", "X", "Amber 22"};
@@ -173,27 +171,21 @@ TEST(RecipeList, FastDoubledNameCheckGivesTheResultsOfTheFullWalk) {
   EXPECT_GT(leaves.size(), 100u);
 }
 
-TEST(RecipeList, ANumberedNameStaysWithinTheSixtyCharactersOfTheRecord) {
-  Bench b;
-  Workbench& wb = *b.wb;
+TEST_F(ListTest, ANumberedNameStaysWithinTheSixtyCharactersOfTheRecord) {
   const std::string full(60, 'x');
-  store(wb, 1, {full});
-  store(wb, 2, {full});
-  store(wb, 3, {full});
-  RecipeList& list = wb.recipeList;
+  store(1, {full});
+  store(2, {full});
+  store(3, {full});
   ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
   EXPECT_EQ(list.tree.find("R2")->tag, std::string(58, 'x') + " 1");
   EXPECT_EQ(list.tree.find("R3")->tag, std::string(58, 'x') + " 2");
 }
 
-TEST(RecipeList, SortModesGroupAndOrderTheLeaves) {
-  Bench b;
-  Workbench& wb = *b.wb;
-  store(wb, 1, {"pale", "Pale Ale", 0, "Oct-05-1998", 2});
-  store(wb, 2, {"Bock", "0", 1, "Mar-01-2001", 3});
-  store(wb, 3, {"Cider Time", "", 3, "", 0});
-  store(wb, 4, {"Amber", "Pale Ale", 0, "Jan-15-1998", 2});
-  RecipeList& list = wb.recipeList;
+TEST_F(ListTest, SortModesGroupAndOrderTheLeaves) {
+  store(1, {"pale", "Pale Ale", 0, "Oct-05-1998", 2});
+  store(2, {"Bock", "0", 1, "Mar-01-2001", 3});
+  store(3, {"Cider Time", "", 3, "", 0});
+  store(4, {"Amber", "Pale Ale", 0, "Jan-15-1998", 2});
 
   ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
   EXPECT_EQ(shownTree(list), (std::vector<std::string>{" Sorted By Name: 4", "  Amber", "  Bock", "  Cider Time",
@@ -225,18 +217,15 @@ TEST(RecipeList, SortModesGroupAndOrderTheLeaves) {
                                                        "No Mash", "  Cider Time", "Step Infusion", "  Bock"}));
 
   // Choosing the mode in force does nothing, not even a refresh.
-  store(wb, 5, {"Zed"});
+  store(5, {"Zed"});
   ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_MASH));
   EXPECT_EQ(list.lblTitle, " Sorted By Mash Type: 4");
   EXPECT_EQ(list.tree.find("R5"), nullptr);
 }
 
-TEST(RecipeList, GroupTagsNumberARecipeCalledParent) {
-  Bench b;
-  Workbench& wb = *b.wb;
-  store(wb, 1, {"Amber"});
-  store(wb, 2, {"Parent", "", 1});
-  RecipeList& list = wb.recipeList;
+TEST_F(ListTest, GroupTagsNumberARecipeCalledParent) {
+  store(1, {"Amber"});
+  store(2, {"Parent", "", 1});
   ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
   EXPECT_EQ(list.tree.find("R2")->tag, "Parent");  // no groups by name
   // By type the group "Ale" (Tag "Parent") stands before the second recipe is checked.
@@ -248,53 +237,38 @@ TEST(RecipeList, GroupTagsNumberARecipeCalledParent) {
   EXPECT_EQ(list.uniqueName("Parent 1"), "Parent 1 (Duplicate)");
 }
 
-TEST(RecipeList, UnreadableDateOrListCodeLeavesTheRecipeOutWithAMessage) {
-  Bench b;
-  Workbench& wb = *b.wb;
-  store(wb, 1, {"Good"});
-  store(wb, 2, {"Bad Date", "", 0, "sometime"});
-  store(wb, 3, {"Bad Type", "", 17});
-  RecipeList& list = wb.recipeList;
+TEST_F(ListTest, UnreadableDateOrListCodeLeavesTheRecipeOutWithAMessage) {
+  store(1, {"Good"});
+  store(2, {"Bad Date", "", 0, "sometime"});
+  store(3, {"Bad Type", "", 17});
   ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_DATE));
-  ASSERT_EQ(b.prompter.shown.size(), 1u);
-  EXPECT_EQ(b.prompter.shown[0].text, "In AddToRecipeList: Type mismatch");
-  EXPECT_EQ(b.prompter.shown[0].title, "Error");
+  EXPECT_EQ(msgs(), std::vector<std::string>{"Error: In AddToRecipeList: Type mismatch"});
   EXPECT_EQ(list.lblTitle, " Sorted By Date: 2");
   EXPECT_EQ(list.tree.find("R2"), nullptr);
 
   b.prompter.shown.clear();
   ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_TYPE));
-  ASSERT_EQ(b.prompter.shown.size(), 1u);
-  EXPECT_EQ(b.prompter.shown[0].text, "In AddToRecipeList: Subscript out of range");
+  EXPECT_EQ(msgs(), std::vector<std::string>{"Error: In AddToRecipeList: Subscript out of range"});
   EXPECT_EQ(list.tree.tag, "2");
 }
 
-TEST(RecipeList, ScanStopsAtACorruptedRecordAndSetsTheNextSlot) {
-  Bench b;
-  Workbench& wb = *b.wb;
-  RecipeList& list = wb.recipeList;
+TEST_F(ListTest, ScanStopsAtACorruptedRecordAndSetsTheNextSlot) {
   // Missing file: empty tree, count 0, next slot 1.
   ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
   EXPECT_EQ(list.lblTitle, " Sorted By Name: 0");
   EXPECT_EQ(findNextRecipeSlot(wb), 1);
 
-  store(wb, 1, {"One"});
-  store(wb, 3, {"Three"});  // record 2 is a free slot
-  store(wb, 4, {"Four"});
-  store(wb, 5, {"Five"});
+  store(1, {"One"});
+  store(3, {"Three"});  // record 2 is a free slot
+  store(4, {"Four"});
+  store(5, {"Five"});
   list.sortMode = -1;
   ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
   EXPECT_EQ(wb.recipeSlotPosition, 2);
   EXPECT_EQ(list.recordCounter, 6);
 
   // Break the end code of record 4.
-  {
-    RecordFile f(recipeFile(b), RecipeRecord::kLength);
-    std::string buf;
-    ASSERT_TRUE(f.read(4, buf));
-    putI16(buf, RecipeRecord::kLength - 2, 298);
-    f.write(4, buf);
-  }
+  test::patchRecord(recipeFile(b), RecipeRecord::kLength, 4, [](std::string& r) { putI16(r, RecipeRecord::kLength - 2, 298); });
   list.sortMode = -1;
   EXPECT_FALSE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
   ASSERT_EQ(b.prompter.shown.size(), 1u);
@@ -305,29 +279,19 @@ TEST(RecipeList, ScanStopsAtACorruptedRecordAndSetsTheNextSlot) {
 
   // A full file: the slot lies one past the end.
   Bench c;
-  store(*c.wb, 1, {"A"});
-  store(*c.wb, 2, {"B"});
+  zy::store(*c.wb, 1, {"A"});
+  zy::store(*c.wb, 2, {"B"});
   ASSERT_TRUE(c.wb->recipeList.mnuSortBy_Click(*c.wb, SORT_BY_NAME));
   EXPECT_EQ(c.wb->recipeSlotPosition, 3);
 }
 
-TEST(RecipeList, TwoRecordsClaimingOneNumberGiveOneMessageAndOneLeaf) {
-  Bench b;
-  Workbench& wb = *b.wb;
-  store(wb, 1, {"Amber"});
-  store(wb, 2, {"Amber"});
-  {
-    RecordFile f(recipeFile(b), RecipeRecord::kLength);
-    std::string buf;
-    ASSERT_TRUE(f.read(2, buf));
-    putI16(buf, 2, 1);  // record 2 claims number 1
-    f.write(2, buf);
-  }
-  RecipeList& list = wb.recipeList;
+TEST_F(ListTest, TwoRecordsClaimingOneNumberGiveOneMessageAndOneLeaf) {
+  store(1, {"Amber"});
+  store(2, {"Amber"});
+  // Record 2 claims number 1.
+  test::patchRecord(recipeFile(b), RecipeRecord::kLength, 2, [](std::string& r) { putI16(r, 2, 1); });
   ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
-  ASSERT_EQ(b.prompter.shown.size(), 1u);
-  EXPECT_EQ(b.prompter.shown[0].text, "Duplicate Recipe Name: Amber 1, Changed and Added");
-  EXPECT_EQ(b.prompter.shown[0].title, "Zythara Recipes");
+  EXPECT_EQ(msgs(), std::vector<std::string>{"Zythara Recipes: Duplicate Recipe Name: Amber 1, Changed and Added"});
   EXPECT_EQ(shownTree(list), (std::vector<std::string>{" Sorted By Name: 1", "  Amber"}));
 }
 
@@ -340,12 +304,9 @@ std::string batchLog(int recipeNo, bool sound = true) {
   return rec;
 }
 
-TEST(RecipeList, LogSuffixShowsBatchLogCountsWithoutTouchingTheTag) {
-  Bench b;
-  Workbench& wb = *b.wb;
-  store(wb, 1, {"Amber"});
-  store(wb, 2, {"Stout"});
-  RecipeList& list = wb.recipeList;
+TEST_F(ListTest, LogSuffixShowsBatchLogCountsWithoutTouchingTheTag) {
+  store(1, {"Amber"});
+  store(2, {"Stout"});
   list.mnuSortLogCount = true;
   ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_DATE));
   EXPECT_EQ(list.tree.find("R1")->text, "1998-10-05 - Amber");  // no log file: no suffix
@@ -371,11 +332,9 @@ TEST(RecipeList, LogSuffixShowsBatchLogCountsWithoutTouchingTheTag) {
   EXPECT_EQ(list.tree.find("R1")->text, "1998-10-05 - Amber");
 }
 
-TEST(RecipeList, UniqueNameAddsDuplicateOnceAndReplaceTextScansFromTheLeft) {
-  Bench b;
-  Workbench& wb = *b.wb;
-  store(wb, 1, {"Amber"});
-  store(wb, 2, {"Amber (Duplicate)"});
+TEST_F(ListTest, UniqueNameAddsDuplicateOnceAndReplaceTextScansFromTheLeft) {
+  store(1, {"Amber"});
+  store(2, {"Amber (Duplicate)"});
   ASSERT_TRUE(wb.recipeList.mnuSortBy_Click(wb, SORT_BY_STYLE));
   EXPECT_EQ(uniqueName(wb, "Amber"), "Amber (Duplicate)");  // no second check
   EXPECT_EQ(uniqueName(wb, "amber"), "amber");
@@ -385,12 +344,9 @@ TEST(RecipeList, UniqueNameAddsDuplicateOnceAndReplaceTextScansFromTheLeft) {
   EXPECT_EQ(replaceText("x", "", "y"), "x");
 }
 
-TEST(RecipeList, DeleteAsksAndKeepsAnEmptiedGroupUntilTheRebuild) {
-  Bench b;
-  Workbench& wb = *b.wb;
-  store(wb, 1, {"Amber", "Red Ale"});
-  store(wb, 2, {"Stout", "Dry Stout"});
-  RecipeList& list = wb.recipeList;
+TEST_F(ListTest, DeleteAsksAndKeepsAnEmptiedGroupUntilTheRebuild) {
+  store(1, {"Amber", "Red Ale"});
+  store(2, {"Stout", "Dry Stout"});
   ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_STYLE));
   list.select("Red Ale");
   EXPECT_FALSE(list.deleteEnabled);
@@ -401,21 +357,14 @@ TEST(RecipeList, DeleteAsksAndKeepsAnEmptiedGroupUntilTheRebuild) {
   EXPECT_TRUE(list.deleteEnabled);
   b.prompter.answers = {Answer::No, Answer::Yes};
   EXPECT_FALSE(list.mnuFileDelete_Click(wb));
-  ASSERT_EQ(b.prompter.shown.size(), 1u);
-  EXPECT_EQ(b.prompter.shown[0].text, "Do you want to Delete the \"Amber\" Recipe?");
-  EXPECT_EQ(b.prompter.shown[0].title, "Recipe Delete");
+  EXPECT_EQ(msgs(), std::vector<std::string>{"Recipe Delete: Do you want to Delete the \"Amber\" Recipe?"});
   EXPECT_EQ(b.prompter.shown[0].buttons, Buttons::YesNo);
   EXPECT_NE(list.tree.find("R1"), nullptr);
 
   EXPECT_TRUE(list.mnuFileDelete_Click(wb));
   EXPECT_EQ(shownTree(list), (std::vector<std::string>{" Sorted By Beer Style: 1", "Dry Stout", "  Stout", "Red Ale"}));
   EXPECT_FALSE(list.deleteEnabled);
-  {
-    RecordFile f(recipeFile(b), RecipeRecord::kLength);
-    std::string buf;
-    ASSERT_TRUE(f.read(1, buf));
-    EXPECT_EQ(getI16(buf, 2), 0);
-  }
+  EXPECT_EQ(getI16(readFile(recipeFile(b)), 2), 0);
   // The name is free again.
   EXPECT_EQ(list.uniqueName("Amber"), "Amber");
   list.sortMode = -1;
@@ -423,12 +372,9 @@ TEST(RecipeList, DeleteAsksAndKeepsAnEmptiedGroupUntilTheRebuild) {
   EXPECT_EQ(list.tree.find("Red Ale"), nullptr);
 }
 
-TEST(RecipeList, OpenAsksAboutAChangedRecipeAndLoadsTheLeaf) {
-  Bench b;
-  Workbench& wb = *b.wb;
-  store(wb, 1, {"Amber"});
-  store(wb, 2, {"Stout"});
-  RecipeList& list = wb.recipeList;
+TEST_F(ListTest, OpenAsksAboutAChangedRecipeAndLoadsTheLeaf) {
+  store(1, {"Amber"});
+  store(2, {"Stout"});
   ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_TYPE));
   int saves = 0, prepared = 0, populated = 0;
   RecipeOpenHooks hooks{[] { return true; }, [&] { ++saves; }, [&] { ++prepared; }, [&] { ++populated; }};
@@ -436,9 +382,7 @@ TEST(RecipeList, OpenAsksAboutAChangedRecipeAndLoadsTheLeaf) {
   EXPECT_FALSE(list.openRecipe(wb, "Ale", hooks));  // a group opens nothing
   b.prompter.answers = {Answer::Cancel};
   EXPECT_FALSE(list.openRecipe(wb, "R1", hooks));
-  ASSERT_EQ(b.prompter.shown.size(), 1u);
-  EXPECT_EQ(b.prompter.shown[0].text, "Recipe has Changed, Save Changes?");
-  EXPECT_EQ(b.prompter.shown[0].title, "Save Recipe");
+  EXPECT_EQ(msgs(), std::vector<std::string>{"Save Recipe: Recipe has Changed, Save Changes?"});
   EXPECT_EQ(b.prompter.shown[0].buttons, Buttons::YesNoCancel);
   EXPECT_EQ(prepared + populated + saves, 0);
 
@@ -455,11 +399,8 @@ TEST(RecipeList, OpenAsksAboutAChangedRecipeAndLoadsTheLeaf) {
   EXPECT_EQ(trim(wb.recipe.rec.recipeName), "Stout");
 }
 
-TEST(RecipeList, NewTakesASlotButReachesNeitherTreeNorFile) {
-  Bench b;
-  Workbench& wb = *b.wb;
-  store(wb, 1, {"Amber"});
-  RecipeList& list = wb.recipeList;
+TEST_F(ListTest, NewTakesASlotButReachesNeitherTreeNorFile) {
+  store(1, {"Amber"});
   ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
   EXPECT_EQ(list.mnuFileNew_Click(wb), 2);
   EXPECT_EQ(wb.recipe.rec.recipeNo, 2);
@@ -469,10 +410,8 @@ TEST(RecipeList, NewTakesASlotButReachesNeitherTreeNorFile) {
   EXPECT_EQ(readFile(recipeFile(b)).size(), RecipeRecord::kLength);
 }
 
-TEST(RecipeList, SettingsOfTheWindow) {
-  Bench b;
-  Workbench& wb = *b.wb;
-  store(wb, 1, {"Amber", "", 2});
+TEST_F(ListTest, SettingsOfTheWindow) {
+  store(1, {"Amber", "", 2});
   RecipeListSettings s = RecipeListSettings::read(wb);
   EXPECT_EQ(s.mainLeft, 1000);
   EXPECT_EQ(s.mainTop, 2000);
@@ -483,7 +422,6 @@ TEST(RecipeList, SettingsOfTheWindow) {
 
   b.settings.write("Recipe List", "Sort By", "2");
   b.settings.write("Recipe List", "Show Log Count", "True");
-  RecipeList& list = wb.recipeList;
   list.formLoad(wb);
   EXPECT_EQ(list.sortMode, SORT_BY_TYPE);
   EXPECT_TRUE(list.mnuSortLogCount);
@@ -496,9 +434,7 @@ TEST(RecipeList, SettingsOfTheWindow) {
   EXPECT_EQ(b.settings.read("Recipe List", "Show Log Count", ""), "False");
 }
 
-TEST(RecipeList, ListFileHoldsTheRowsInTreeOrderWithCrLf) {
-  Bench b;
-  Workbench& wb = *b.wb;
+TEST_F(ListTest, ListFileHoldsTheRowsInTreeOrderWithCrLf) {
   newRecipeRecord(wb);
   RecipeRecord& r = wb.recipe.rec;
   r.recipeNo = 1;
@@ -510,8 +446,7 @@ TEST(RecipeList, ListFileHoldsTheRowsInTreeOrderWithCrLf) {
   r.bitterness = 31;
   r.alcohol = 5.06;
   ASSERT_TRUE(saveCurrentRecipe(wb));
-  store(wb, 2, {"Amber"});
-  RecipeList& list = wb.recipeList;
+  store(2, {"Amber"});
   ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
   wb.recipe.rec.recipeName = "untouched";
   const std::string path = b.dir.file("list.txt");
@@ -525,16 +460,11 @@ TEST(RecipeList, ListFileHoldsTheRowsInTreeOrderWithCrLf) {
   EXPECT_EQ(wb.recipe.rec.recipeName, "untouched");
 
   EXPECT_FALSE(list.printRecipeListToFile(wb, b.dir.file("no/such/folder/list.txt")));
-  ASSERT_EQ(b.prompter.shown.size(), 1u);
-  EXPECT_EQ(b.prompter.shown[0].text, "Unable to Generate Output File");
-  EXPECT_EQ(b.prompter.shown[0].title, "Error");
+  EXPECT_EQ(msgs(), std::vector<std::string>{"Error: Unable to Generate Output File"});
 }
 
-TEST(RecipeList, ImportSequenceNumbersSavesAndRemembersTheFolder) {
-  Bench b;
-  Workbench& wb = *b.wb;
-  store(wb, 1, {"Amber"});
-  RecipeList& list = wb.recipeList;
+TEST_F(ListTest, ImportSequenceNumbersSavesAndRemembersTheFolder) {
+  store(1, {"Amber"});
   ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
   const std::string file = b.dir.file("in.zyr");
   test::writeFile(file, "<Recipe_Format_1.0>\r\n<Recipe> Type=\"Lager\", Name=\"Amber\", BoilTime=75\r\n"
@@ -561,22 +491,17 @@ TEST(RecipeList, ImportSequenceNumbersSavesAndRemembersTheFolder) {
   EXPECT_EQ(trim(wb.recipe.rec.recipeName), "A Beer Recipe 1");
 }
 
-TEST(RecipeList, ImportOfAnOverfullHugeOrBinaryFileLeavesTheStoredRecipesSound) {
-  Bench b;
-  Workbench& wb = *b.wb;
+TEST_F(ListTest, ImportOfAnOverfullHugeOrBinaryFileLeavesTheStoredRecipesSound) {
   newRecipeRecord(wb);
   wb.recipe.rec.recipeNo = 1;
   wb.recipe.rec.recipeName = "Stock Ale";
   wb.recipe.rec.itemCount = 2;
-  wb.recipe.items[0].itemKind = KIND_MALT;
-  wb.recipe.items[0].itemName = "Pale";
-  wb.recipe.items[1].itemKind = KIND_HOPS;
-  wb.recipe.items[1].itemName = "Fuggle";
+  wb.recipe.items[0] = test::makeItem(KIND_MALT, "Pale", 0);
+  wb.recipe.items[1] = test::makeItem(KIND_HOPS, "Fuggle", 0);
   wb.recipe.comment = "keep me";
   ASSERT_TRUE(saveCurrentRecipe(wb));
   const std::string itemsBefore = readFile(wb.folder.dataFile(kRecipeItemsFile));
   const std::string commentsBefore = readFile(wb.folder.dataFile(kCommentFile));
-  RecipeList& list = wb.recipeList;
   ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
 
   // Thousands of items behind a label of a million characters and a line of a million fields:
@@ -615,11 +540,8 @@ TEST(RecipeList, ImportOfAnOverfullHugeOrBinaryFileLeavesTheStoredRecipesSound) 
                                                        "  Stock Ale"}));
 }
 
-TEST(RecipeList, ExportSequenceProposesANameAndWritesTheFile) {
-  Bench b;
-  Workbench& wb = *b.wb;
-  store(wb, 1, {"Bob's \"Best\" Bitter: No/1"});
-  RecipeList& list = wb.recipeList;
+TEST_F(ListTest, ExportSequenceProposesANameAndWritesTheFile) {
+  store(1, {"Bob's \"Best\" Bitter: No/1"});
   ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
   ASSERT_TRUE(loadRecipe(wb, 1));
   EXPECT_EQ(list.proposedExportName(wb), "Bob-s_-Best-_Bitter-_No-1.zyr");

@@ -36,6 +36,22 @@ int ownerOf(const std::string& path, size_t len, long n) {
   std::string all = readFile(path);
   return getI16(std::string_view(all).substr((n - 1) * len, len), 2);
 }
+
+// A workbench, the three recipe files, and a save of recipe `no` with the items and comment given.
+struct StoreTest : ::testing::Test {
+  Bench b;
+  Workbench& wb = *b.wb;
+  const std::string recipes = b.dir.file("Data/ZYRecipe.dat"), items = b.dir.file("Data/ZYRItems.dat"),
+                    comments = b.dir.file("Data/ZYComment.dat");
+  void save(int no, const std::vector<RecipeItemRecord>& its, const std::string& comment = "") {
+    newRecipeRecord(wb);
+    wb.recipe.rec.recipeNo = no;
+    wb.recipe.rec.itemCount = static_cast<int>(its.size());
+    for (size_t i = 0; i < its.size(); ++i) wb.recipe.items[i] = its[i];
+    wb.recipe.comment = comment;
+    ASSERT_TRUE(saveCurrentRecipe(wb));
+  }
+};
 }  // namespace
 
 TEST(RecipeRecords, ItemAndCommentBytesAtTheirOffsets) {
@@ -50,18 +66,10 @@ TEST(RecipeRecords, ItemAndCommentBytesAtTheirOffsets) {
   it.detail = 60;
   it.mashFlag = 0;
   Bytes e(114);
-  e.i16(0, 200);
-  e.i16(2, 12);
-  e.i16(4, 1);
+  for (auto [off, v] : {std::pair{0, 200}, {2, 12}, {4, 1}, {64, 1}, {90, 0}, {112, 299}}) e.i16(off, v);
+  for (auto [off, v] : {std::pair{56, 1.5}, {66, 1.25}, {74, 5.5}, {82, 60.0}}) e.f64(off, v);
   e.text(6, 50, "Cascade");
-  e.f64(56, 1.5);
-  e.i16(64, 1);
-  e.f64(66, 1.25);
-  e.f64(74, 5.5);
-  e.f64(82, 60);
-  e.i16(90, 0);
   e.text(92, 20, "");
-  e.i16(112, 299);
   EXPECT_EQ(it.encode(), e.b);
   RecipeItemRecord back = RecipeItemRecord::decode(e.b);
   EXPECT_EQ(back.itemName, fixedText("Cascade", 50));
@@ -72,10 +80,8 @@ TEST(RecipeRecords, ItemAndCommentBytesAtTheirOffsets) {
   c.recipeNo = 3;
   c.commentText = "Dry hop \xB8 days";
   Bytes ce(126);
-  ce.i16(0, 200);
-  ce.i16(2, 3);
+  for (auto [off, v] : {std::pair{0, 200}, {2, 3}, {124, 299}}) ce.i16(off, v);
   ce.text(4, 120, "Dry hop \xB8 days");
-  ce.i16(124, 299);
   EXPECT_EQ(c.encode(), ce.b);
   EXPECT_EQ(RecipeCommentRecord::decode(ce.b).recipeNo, 3);
 }
@@ -126,58 +132,20 @@ TEST(RecipeRecords, RecipeBytesAtTheirOffsets) {
   r.agingUnits = 1;
   r.agingTemp = -9999.0;
   Bytes e(1546);
-  e.i16(0, 200);
-  e.i16(2, 4);
-  e.i16(4, 1);
-  e.i16(6, 2);
-  e.i16(8, 3);
-  e.text(10, 60, "Amber");
-  e.text(70, 60, "K\xF6lsch");
-  e.f64(130, 3.5);
-  e.f64(138, 5);
-  e.i16(146, 1);
-  e.f64(148, 12.25);
-  e.i16(156, 33);
-  e.f64(158, 1.05);
-  e.f64(166, 1.012);
-  e.f64(174, 4.9);
-  e.f64(182, 60);
-  e.i16(190, 3);
-  e.f64(192, 122);
-  e.f64(192 + 96, 170);
-  e.f64(296, 30);
-  e.f64(296 + 96, 10);
+  // Offset and value of every 16-bit and every 8-byte field that is not zero, then the texts.
+  for (auto [off, v] : {std::pair{0, 200}, {2, 4}, {4, 1}, {6, 2}, {8, 3}, {146, 1}, {156, 33}, {190, 3},
+                        {1152, 0}, {1162, 6}, {1204, 0}, {1206, 1}, {1208, 2}, {1234, 0}, {1236, 1}, {1238, 2},
+                        {1240, 2}, {1242, 2}, {1244, 1}, {1382, 3}, {1384, 1}, {1544, 299}})
+    e.i16(off, v);
+  for (auto [off, v] : {std::pair{130, 3.5}, {138, 5.0}, {148, 12.25}, {158, 1.05}, {166, 1.012}, {174, 4.9},
+                        {182, 60.0}, {192, 122.0}, {192 + 96, 170.0}, {296, 30.0}, {296 + 96, 10.0}, {920, 1.25},
+                        {928, 10.0}, {936, 75.0}, {1154, 4.5}, {1164, 168.0}, {1172, 0.5}, {1180, 7.0},
+                        {1188, 2.0}, {1210, 65.0}, {1218, 60.0}, {1386, -9999.0}})
+    e.f64(off, v);
   for (int i = 0; i < 13; ++i) e.text(400 + 40 * i, 40, i == 0 ? "Protein rest" : i == 12 ? "Mash out" : "");
-  e.f64(920, 1.25);
-  e.f64(928, 10);
-  e.f64(936, 75);
-  e.i16(1152, 0);
-  e.f64(1154, 4.5);
-  e.i16(1162, 6);
-  e.f64(1164, 168);
-  e.f64(1172, 0.5);
-  e.f64(1180, 7);
-  e.f64(1188, 2);
-  e.i16(1204, 0);
-  e.i16(1206, 1);
-  e.i16(1208, 2);
-  e.f64(1210, 65);
-  e.f64(1218, 60);
-  e.i16(1234, 0);
-  e.i16(1236, 1);
-  e.i16(1238, 2);
-  e.i16(1240, 2);
-  e.i16(1242, 2);
-  e.i16(1244, 1);
-  e.text(1246, 80, "3/4 cup corn sugar");
-  e.text(1326, 11, "Oct-05-1998");
-  e.text(1337, 10, "AM-1");
-  e.text(1347, 35, "Amber Label");
-  e.i16(1382, 3);
-  e.i16(1384, 1);
-  e.f64(1386, -9999.0);
-  e.text(1394, 150, "");
-  e.i16(1544, 299);
+  for (auto [off, len, t] : {std::tuple{10, 60, "Amber"}, {70, 60, "K\xF6lsch"}, {1246, 80, "3/4 cup corn sugar"},
+                             {1326, 11, "Oct-05-1998"}, {1337, 10, "AM-1"}, {1347, 35, "Amber Label"}, {1394, 150, ""}})
+    e.text(off, len, t);
   const std::string got = r.encode();
   ASSERT_EQ(got.size(), 1546u);
   for (size_t i = 0; i < got.size(); ++i)
@@ -209,9 +177,7 @@ TEST(RecipeStore, NewRecipeRecordHoldsTheDefaults) {
   EXPECT_EQ(b.wb->recipe.comment, "");
 }
 
-TEST(RecipeStore, SlotsAreReusedFromTheRememberedPosition) {
-  Bench b;
-  Workbench& wb = *b.wb;
+TEST_F(StoreTest, SlotsAreReusedFromTheRememberedPosition) {
   auto add = [&](const char* name) {
     newRecipeRecord(wb);
     long slot = findNextRecipeSlot(wb);
@@ -220,15 +186,13 @@ TEST(RecipeStore, SlotsAreReusedFromTheRememberedPosition) {
     EXPECT_TRUE(saveCurrentRecipe(wb));
     return slot;
   };
-  EXPECT_EQ(add("One"), 1);
-  EXPECT_EQ(add("Two"), 2);
-  EXPECT_EQ(add("Three"), 3);
-  EXPECT_EQ(add("Four"), 4);
+  long slot = 0;
+  for (const char* name : {"One", "Two", "Three", "Four"}) EXPECT_EQ(add(name), ++slot);
   EXPECT_TRUE(deleteRecipe(wb, 1));
   EXPECT_TRUE(deleteRecipe(wb, 3));
   // The search resumes at the remembered 4: the freed slots 1 and 3 lie before it.
   EXPECT_EQ(findNextRecipeSlot(wb), 5);
-  EXPECT_EQ(recordCount(b.dir.file("Data/ZYRecipe.dat"), 1546), 4);
+  EXPECT_EQ(recordCount(recipes, 1546), 4);
   // A fresh start searches from 1 again.
   wb.recipeSlotPosition = 1;
   EXPECT_EQ(add("Five"), 1);
@@ -239,28 +203,13 @@ TEST(RecipeStore, SlotsAreReusedFromTheRememberedPosition) {
   EXPECT_EQ(names, (std::vector<std::string>{"Five", "Two", "Six", "Four", "Seven"}));
 }
 
-TEST(RecipeStore, ItemsAndCommentsAreRewrittenAndFreed) {
-  Bench b;
-  Workbench& wb = *b.wb;
-  const std::string items = b.dir.file("Data/ZYRItems.dat");
-  const std::string comments = b.dir.file("Data/ZYComment.dat");
-  // Recipe 1 with three items and a 121-character comment.
-  newRecipeRecord(wb);
-  wb.recipe.rec.recipeNo = static_cast<int>(findNextRecipeSlot(wb));
-  wb.recipe.rec.itemCount = 3;
-  wb.recipe.items[0] = makeItem(0, "Pale", 8);
-  wb.recipe.items[1] = makeItem(1, "Cascade", 1);
-  wb.recipe.items[2] = makeItem(3, "Ale Yeast", 1);
-  wb.recipe.comment = std::string(120, 'a') + "b";
-  ASSERT_TRUE(saveCurrentRecipe(wb));
+TEST_F(StoreTest, ItemsAndCommentsAreRewrittenAndFreed) {
+  // Recipe 1 with three items and a 121-character comment, recipe 2 with one item after them.
+  save(1, {makeItem(0, "Pale", 8), makeItem(1, "Cascade", 1), makeItem(3, "Ale Yeast", 1)},
+       std::string(120, 'a') + "b");
   EXPECT_EQ(wb.recipe.rec.commentCount, 2);
-  // Recipe 2 with one item after them.
-  newRecipeRecord(wb);
-  wb.recipe.rec.recipeNo = static_cast<int>(findNextRecipeSlot(wb));
-  EXPECT_EQ(wb.recipe.rec.recipeNo, 2);
-  wb.recipe.rec.itemCount = 1;
-  wb.recipe.items[0] = makeItem(0, "Munich", 2);
-  ASSERT_TRUE(saveCurrentRecipe(wb));
+  EXPECT_EQ(findNextRecipeSlot(wb), 2);
+  save(2, {makeItem(0, "Munich", 2)});
   EXPECT_EQ(recordCount(items, 114), 4);
   EXPECT_EQ(recordCount(comments, 126), 2);
 
@@ -273,10 +222,7 @@ TEST(RecipeStore, ItemsAndCommentsAreRewrittenAndFreed) {
   wb.recipe.comment = std::string(120, 'c');
   ASSERT_TRUE(saveCurrentRecipe(wb));
   EXPECT_EQ(wb.recipe.rec.commentCount, 1);
-  EXPECT_EQ(ownerOf(items, 114, 1), 1);
-  EXPECT_EQ(ownerOf(items, 114, 2), 0);
-  EXPECT_EQ(ownerOf(items, 114, 3), 0);
-  EXPECT_EQ(ownerOf(items, 114, 4), 2);
+  for (auto [n, owner] : {std::pair{1, 1}, {2, 0}, {3, 0}, {4, 2}}) EXPECT_EQ(ownerOf(items, 114, n), owner) << n;
   EXPECT_EQ(ownerOf(comments, 126, 2), 0);
 
   // Recipe 2 grows to three items: the freed records 2 and 3 are reused, nothing appended.
@@ -289,9 +235,9 @@ TEST(RecipeStore, ItemsAndCommentsAreRewrittenAndFreed) {
   EXPECT_EQ(ownerOf(items, 114, 2), 2);
   ASSERT_TRUE(loadRecipe(wb, 2));
   // The items go to the eligible records from the front in table order, and come back so.
-  EXPECT_EQ(trim(wb.recipe.items[0].itemName), "Munich");
-  EXPECT_EQ(trim(wb.recipe.items[1].itemName), "Crystal");
-  EXPECT_EQ(trim(wb.recipe.items[2].itemName), "Fuggle");
+  EXPECT_EQ(trim(wb.recipe.items[0].itemName) + "," + trim(wb.recipe.items[1].itemName) + "," +
+                trim(wb.recipe.items[2].itemName),
+            "Munich,Crystal,Fuggle");
   EXPECT_EQ(getText(readFile(items).substr(3 * 114, 114), 6, 6), "Fuggle");
 
   // An empty comment with none before leaves the comment file alone.
@@ -305,77 +251,41 @@ TEST(RecipeStore, ItemsAndCommentsAreRewrittenAndFreed) {
   ASSERT_TRUE(saveCurrentRecipe(wb));
   EXPECT_EQ(wb.recipe.rec.commentCount, 0);
   EXPECT_EQ(ownerOf(comments, 126, 1), 0);
+  for (auto [len, count] : {std::pair{0, 0}, {1, 1}, {120, 1}, {121, 2}, {240, 2}})
+    EXPECT_EQ(commentCountFor(len), count) << len;
 }
 
-TEST(RecipeStore, SavingWithoutARecordNumberEndsTheProgram) {
-  Bench b;
-  newRecipeRecord(*b.wb);  // recipeNo 0: no slot was taken
-  EXPECT_THROW(saveCurrentRecipe(*b.wb), Terminated);
+TEST_F(StoreTest, SavingWithoutARecordNumberEndsTheProgram) {
+  newRecipeRecord(wb);  // recipeNo 0: no slot was taken
+  EXPECT_THROW(saveCurrentRecipe(wb), Terminated);
   EXPECT_EQ(b.prompter.shown.back().text,
             "Error #63(Bad record number) in frmRecipeList!saveCurrentRecipe at Line 0");
-  EXPECT_EQ(readFile(b.dir.file("Data/ZYRecipe.dat")), "");
+  EXPECT_EQ(readFile(recipes), "");
 }
 
-TEST(RecipeStore, CommentCounts) {
-  EXPECT_EQ(commentCountFor(0), 0);
-  EXPECT_EQ(commentCountFor(1), 1);
-  EXPECT_EQ(commentCountFor(120), 1);
-  EXPECT_EQ(commentCountFor(121), 2);
-  EXPECT_EQ(commentCountFor(240), 2);
-}
-
-TEST(RecipeStore, TwentyFiveItemsFillTwentyFiveRecords) {
-  Bench b;
-  Workbench& wb = *b.wb;
-  newRecipeRecord(wb);
-  wb.recipe.rec.recipeNo = 1;
-  wb.recipe.rec.itemCount = 25;
-  for (int i = 0; i < 25; ++i) wb.recipe.items[i] = makeItem(i % 4, "Item " + std::to_string(i), i);
-  ASSERT_TRUE(saveCurrentRecipe(wb));
-  EXPECT_EQ(recordCount(b.dir.file("Data/ZYRItems.dat"), 114), 25);
+TEST_F(StoreTest, TwentyFiveItemsFillTwentyFiveRecordsAndMissingItemsWarn) {
+  std::vector<RecipeItemRecord> its;
+  for (int i = 0; i < 25; ++i) its.push_back(makeItem(i % 4, "Item " + std::to_string(i), i));
+  save(1, its);
+  EXPECT_EQ(recordCount(items, 114), 25);
   ASSERT_TRUE(loadRecipe(wb, 1));
   EXPECT_EQ(wb.recipe.rec.itemCount, 25);
   EXPECT_EQ(trim(wb.recipe.items[24].itemName), "Item 24");
   EXPECT_EQ(wb.recipe.items[24].recipeNo, 1);
   EXPECT_TRUE(b.prompter.shown.empty());
-}
 
-TEST(RecipeStore, MissingItemsWarnAndCountOneMore) {
-  Bench b;
-  Workbench& wb = *b.wb;
-  newRecipeRecord(wb);
-  wb.recipe.rec.recipeNo = 1;
-  wb.recipe.rec.itemCount = 2;
-  wb.recipe.items[0] = makeItem(0, "Pale", 8);
-  wb.recipe.items[1] = makeItem(1, "Hallertau", 1);
-  ASSERT_TRUE(saveCurrentRecipe(wb));
-  // The record claims five items while two hang on it.
-  std::string all = readFile(b.dir.file("Data/ZYRecipe.dat"));
-  putI16(all, 8, 5);
-  writeFile(b.dir.file("Data/ZYRecipe.dat"), all);
-  ASSERT_TRUE(loadRecipe(wb, 1));
-  ASSERT_EQ(b.prompter.shown.size(), 1u);
-  EXPECT_EQ(b.prompter.shown[0].text, "Not all the Recipe Items where loaded for this Recipe");
-  EXPECT_EQ(b.prompter.shown[0].title, "Warning");
+  // Recipe 2 claims five items while two hang on it: a warning, and the count is one more.
+  save(2, {makeItem(0, "Pale", 8), makeItem(1, "Hallertau", 1)});
+  patchRecord(recipes, 1546, 2, [](std::string& r) { putI16(r, 8, 5); });
+  ASSERT_TRUE(loadRecipe(wb, 2));
+  EXPECT_EQ(shownLines(b.prompter),
+            std::vector<std::string>{"Warning: Not all the Recipe Items where loaded for this Recipe"});
   EXPECT_EQ(wb.recipe.rec.itemCount, 3);
 }
 
-TEST(RecipeStore, CorruptedRecordsStopTheOperationWithTheirErrors) {
-  Bench b;
-  Workbench& wb = *b.wb;
-  for (int n = 1; n <= 3; ++n) {
-    newRecipeRecord(wb);
-    wb.recipe.rec.recipeNo = n;
-    wb.recipe.rec.recipeName = "R" + std::to_string(n);
-    wb.recipe.rec.itemCount = 1;
-    wb.recipe.items[0] = makeItem(0, "Malt", n);
-    wb.recipe.comment = "note " + std::to_string(n);
-    ASSERT_TRUE(saveCurrentRecipe(wb));
-  }
-  const std::string recipes = b.dir.file("Data/ZYRecipe.dat");
-  std::string all = readFile(recipes);
-  putI16(all, 1546 + 1544, 298);  // record 2 ends badly
-  writeFile(recipes, all);
+TEST_F(StoreTest, CorruptedRecordsStopTheOperationWithTheirErrors) {
+  for (int n = 1; n <= 3; ++n) save(n, {makeItem(0, "Malt", n)}, "note " + std::to_string(n));
+  patchRecord(recipes, 1546, 2, [](std::string& r) { putI16(r, 1544, 298); });  // record 2 ends badly
   std::vector<long> seen;
   EXPECT_FALSE(scanRecipes(wb, [&](long n, const RecipeRecord&) { seen.push_back(n); }));
   EXPECT_EQ(seen, std::vector<long>{1});
@@ -383,29 +293,22 @@ TEST(RecipeStore, CorruptedRecordsStopTheOperationWithTheirErrors) {
   EXPECT_EQ(b.prompter.shown[0].text,
             "Corrupted Recipe Record in " + recipes + " at Line 2, No More Recipes Loaded");
   auto log = readLines(b.dir.file("ZYError.log"));
-  EXPECT_EQ(log[4], "Error #32020(Invalid Recipe Record Control Code)");
-  EXPECT_EQ(log[5], "Line #2");
-  EXPECT_EQ(log[6], "In Function RecipeList!mnuSortBy_Click");
-  EXPECT_EQ(log[7], "Affecting File: " + recipes);
+  EXPECT_EQ(std::vector<std::string>(log.begin() + 4, log.begin() + 8),
+            (std::vector<std::string>{"Error #32020(Invalid Recipe Record Control Code)", "Line #2",
+                                      "In Function RecipeList!mnuSortBy_Click", "Affecting File: " + recipes}));
 
   EXPECT_FALSE(loadRecipe(wb, 2));
   EXPECT_EQ(b.prompter.shown.back().text,
             "Corrupted Recipe Record in " + recipes + " at Line 2, No More Recipes Loaded");
 
-  const std::string items = b.dir.file("Data/ZYRItems.dat");
-  std::string it = readFile(items);
-  putI16(it, 114, 0);  // item record 2 starts badly
-  writeFile(items, it);
+  patchRecord(items, 114, 2, [](std::string& r) { putI16(r, 0, 0); });  // item record 2 starts badly
   EXPECT_FALSE(loadRecipe(wb, 3));
   EXPECT_EQ(b.prompter.shown.back().text,
             "Corrupted Recipe Item in " + items + " at Line 2, No More Recipe Items Loaded");
   EXPECT_TRUE(loadRecipe(wb, 1));  // found before the bad record
 
-  const std::string comments = b.dir.file("Data/ZYComment.dat");
-  std::string cm = readFile(comments);
-  putI16(cm, 0, 7);
-  writeFile(comments, cm);
-  writeFile(items, readFile(items).replace(114, 2, std::string("\xC8\x00", 2)));
+  patchRecord(comments, 126, 1, [](std::string& r) { putI16(r, 0, 7); });
+  patchRecord(items, 114, 2, [](std::string& r) { putI16(r, 0, 200); });
   EXPECT_FALSE(loadRecipe(wb, 3));
   EXPECT_EQ(b.prompter.shown.back().text,
             "Corrupted Recipe Comment Record in " + comments + " at Line 1, No More Recipe Comments Loaded");
@@ -414,47 +317,32 @@ TEST(RecipeStore, CorruptedRecordsStopTheOperationWithTheirErrors) {
   EXPECT_TRUE(startsWith(lines[lines.size() - 8], "New Error "));
 }
 
-TEST(RecipeStore, PartialTrailingRecordIsNotReadAndMissingFilesAreCreated) {
-  Bench b;
-  Workbench& wb = *b.wb;
+TEST_F(StoreTest, PartialTrailingRecordIsNotReadAndMissingFilesAreCreated) {
   int count = 0;
   EXPECT_TRUE(scanRecipes(wb, [&](long, const RecipeRecord&) { ++count; }));
   EXPECT_EQ(count, 0);
-  EXPECT_TRUE(fileExists(b.dir.file("Data/ZYRecipe.dat")));
-  newRecipeRecord(wb);
-  wb.recipe.rec.recipeNo = 1;
-  ASSERT_TRUE(saveCurrentRecipe(wb));
-  std::string all = readFile(b.dir.file("Data/ZYRecipe.dat"));
-  writeFile(b.dir.file("Data/ZYRecipe.dat"), all + all.substr(0, 700));
+  EXPECT_TRUE(fileExists(recipes));
+  save(1, {});
+  std::string all = readFile(recipes);
+  writeFile(recipes, all + all.substr(0, 700));
   EXPECT_TRUE(scanRecipes(wb, [&](long, const RecipeRecord&) { ++count; }));
   EXPECT_EQ(count, 1);
   EXPECT_EQ(findNextRecipeSlot(wb), 2);
 }
 
-TEST(RecipeStore, DeleteFreesEverythingButRemovesNothing) {
-  Bench b;
-  Workbench& wb = *b.wb;
-  newRecipeRecord(wb);
-  wb.recipe.rec.recipeNo = 1;
-  wb.recipe.rec.itemCount = 2;
-  wb.recipe.items[0] = makeItem(0, "Pale", 8);
-  wb.recipe.items[1] = makeItem(1, "Saaz", 1);
-  wb.recipe.comment = std::string(130, 'x');
-  ASSERT_TRUE(saveCurrentRecipe(wb));
+TEST_F(StoreTest, DeleteFreesEverythingButRemovesNothing) {
+  save(1, {makeItem(0, "Pale", 8), makeItem(1, "Saaz", 1)}, std::string(130, 'x'));
   ASSERT_TRUE(deleteRecipe(wb, 1));
-  EXPECT_EQ(ownerOf(b.dir.file("Data/ZYRecipe.dat"), 1546, 1), 0);
-  EXPECT_EQ(ownerOf(b.dir.file("Data/ZYRItems.dat"), 114, 1), 0);
-  EXPECT_EQ(ownerOf(b.dir.file("Data/ZYRItems.dat"), 114, 2), 0);
-  EXPECT_EQ(ownerOf(b.dir.file("Data/ZYComment.dat"), 126, 2), 0);
-  EXPECT_EQ(recordCount(b.dir.file("Data/ZYComment.dat"), 126), 2);
+  EXPECT_EQ(ownerOf(recipes, 1546, 1), 0);
+  EXPECT_EQ(ownerOf(items, 114, 1), 0);
+  EXPECT_EQ(ownerOf(items, 114, 2), 0);
+  EXPECT_EQ(ownerOf(comments, 126, 2), 0);
+  EXPECT_EQ(recordCount(comments, 126), 2);
   // The freed record keeps its other fields.
-  std::string all = readFile(b.dir.file("Data/ZYRecipe.dat"));
-  EXPECT_EQ(getText(all, 1326, 11), "Nov-22-2026");
+  EXPECT_EQ(getText(readFile(recipes), 1326, 11), "Nov-22-2026");
 }
 
-TEST(RecipeStore, NoSlotPastTheLastSixteenBitNumber) {
-  Bench b;
-  Workbench& wb = *b.wb;
+TEST_F(StoreTest, NoSlotPastTheLastSixteenBitNumber) {
   // A file of 32767 recipes, none free.
   RecipeRecord r;
   std::string all;
@@ -463,11 +351,11 @@ TEST(RecipeStore, NoSlotPastTheLastSixteenBitNumber) {
     r.recipeNo = n;
     all += r.encode();
   }
-  writeFile(b.dir.file("Data/ZYRecipe.dat"), all);
+  writeFile(recipes, all);
   EXPECT_EQ(findNextRecipeSlot(wb), 0);
   ASSERT_EQ(b.prompter.shown.size(), 1u);
   EXPECT_EQ(b.prompter.shown[0].title, "Zythara Recipes");
-  EXPECT_EQ(readFile(b.dir.file("Data/ZYRecipe.dat")).size(), 1546u * 32767u);
+  EXPECT_EQ(readFile(recipes).size(), 1546u * 32767u);
   // Freeing one makes room again.
   ASSERT_TRUE(deleteRecipe(wb, 40));
   wb.recipeSlotPosition = 1;

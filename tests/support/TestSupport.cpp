@@ -88,6 +88,12 @@ RecipeItemRecord makeItem(int kind, const std::string& name, double qty, int uni
   return it;
 }
 
+std::vector<std::string> shownLines(const ScriptedPrompter& p) {
+  std::vector<std::string> v;
+  for (const ShownMessage& m : p.shown) v.push_back(m.title + ": " + m.text);
+  return v;
+}
+
 std::string readFile(const std::string& path) {
   std::ifstream f(path, std::ios::binary);
   std::stringstream ss;
@@ -106,6 +112,14 @@ std::vector<std::string> readLines(const std::string& path) {
   for (auto& l : lines)
     if (!l.empty() && l.back() == '\r') l.pop_back();
   return lines;
+}
+
+void patchRecord(const std::string& path, size_t length, long no, const std::function<void(std::string&)>& edit) {
+  std::string all = readFile(path);
+  std::string rec = all.substr(static_cast<size_t>(no - 1) * length, length);
+  edit(rec);
+  all.replace(static_cast<size_t>(no - 1) * length, length, rec);
+  writeFile(path, all);
 }
 
 }  // namespace zy::test

@@ -2,6 +2,7 @@
 // Helpers shared by the tests: a temporary program folder, a scripted prompter that records
 // every message, and a workbench over both.
 #include <deque>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -71,8 +72,13 @@ struct Bench {
 RecipeItemRecord makeItem(int kind, const std::string& name, double qty, int units = 0, double cost = 0,
                           double rating = 0, double detail = 0, int mash = 0);
 
+// Every message shown so far as "title: text", in order.
+std::vector<std::string> shownLines(const ScriptedPrompter& p);
+
 std::string readFile(const std::string& path);
 void writeFile(const std::string& path, const std::string& bytes);
 std::vector<std::string> readLines(const std::string& path);
+// Rewrites the bytes of record `no` (1-based) of a file of `length`-byte records through `edit`.
+void patchRecord(const std::string& path, size_t length, long no, const std::function<void(std::string&)>& edit);
 
 }  // namespace zy::test
