@@ -46,6 +46,14 @@ std::string readStyleFile(const std::string& path, size_t limit) {
   return bytes;
 }
 
+// The loader reads on into the row behind the limit report, and that row lies past the table's
+// end: a failure the error routine does not know, which ends the program. The report is made
+// here, before any such read, so nothing past the table is ever touched.
+[[noreturn]] void tableOverrun(ErrorLog& errors, int row) {
+  errors.reportError(ERR_SUBSCRIPT, row, kLoaderName, "", "Subscript out of range");
+  throw Terminated(ERR_SUBSCRIPT);  // the routine ends the process; never gets here
+}
+
 void loadCategories(StyleTables& t, const std::string& path, ErrorLog& errors) {
   const std::string bytes = readStyleFile(path, kCategoryReadLimit);
   size_t pos = 0;
@@ -61,7 +69,7 @@ void loadCategories(StyleTables& t, const std::string& path, ErrorLog& errors) {
     ++t.BeerCategoryCount;
     if (t.BeerCategoryCount > kCategoryLimit) {
       errors.reportError(ERR_MAX_CATEGORIES, 0, kLoaderName, path);
-      break;  // the table is full: nothing further is read
+      tableOverrun(errors, t.BeerCategoryCount);
     }
   }
 }
@@ -94,7 +102,7 @@ void loadStyles(StyleTables& t, const std::string& path, ErrorLog& errors) {
     if (t.BeerStyleCount > kStyleLimit) {
       // Too many styles are reported with the code of a corrupted style, as they always were.
       errors.reportError(ERR_STYLE_CODE, 0, kLoaderName, path);
-      break;
+      tableOverrun(errors, t.BeerStyleCount);
     }
   }
 }

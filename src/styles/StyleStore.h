@@ -17,9 +17,11 @@ class Workbench;
 // Every row's key is overwritten with its position; a style's Category Index is taken as read.
 // Reports through the error routine and goes on:
 //   32013 for a category with bad control codes (the row is counted and kept),
-//   32014 when more than 50 categories are read (loading of categories stops there, count 51),
-//   32015 for a style with bad control codes (counted and kept) and also when more than 250
-//         styles are read (loading of styles stops there, count 251).
+//   32015 for a style with bad control codes (counted and kept).
+// A file of more than 50 categories or 250 styles is reported with 32014 or 32015 (too many
+// styles take the code of a corrupted style), and then the program ends: the next row lies past
+// the table, which the error routine reports as error 9 "Subscript out of range" in
+// LoadBeerStyles, a terminating error.
 // Any other file failure is reported with the procedure name "LoadBeerStyles".
 // A trailing piece shorter than a record is not a row. Never reads past the tables.
 // Returns false when a file failure stopped the load of either file (the other one still loads).

@@ -200,25 +200,6 @@ TEST(RecipeStyleList, BracketedEntriesOnTopThenSortedFilteredStyles) {
   EXPECT_EQ(p.shown[0].title, "Unknown Beer Style");
 }
 
-TEST(StyleFilterDialog, OkStoresCancelAndResetDoNot) {
-  StyleTables t;
-  t.StyleSourceShown = {true, false, true};
-  t.StyleFilterText = "ale";
-  StyleFilterDialog d;
-  d.open(t);
-  EXPECT_EQ(d.chkStyle, (std::array<bool, 3>{true, false, true}));
-  EXPECT_EQ(d.txtFilter, "ale");
-  d.reset();
-  EXPECT_EQ(t.StyleFilterText, "ale");  // nothing stored before OK
-  d.cancel();
-  EXPECT_EQ(t.StyleSourceShown, (std::array<bool, 3>{true, false, true}));
-  d.chkStyle = {false, true, false};
-  d.txtFilter = "  lager  ";
-  d.ok(t);
-  EXPECT_EQ(t.StyleSourceShown, (std::array<bool, 3>{false, true, false}));
-  EXPECT_EQ(t.StyleFilterText, "lager");
-}
-
 TEST(StyleStatistics, CountsBySourceWithIllegalSourcesInTheTotalOnly) {
   auto t = tablesOf({style("a", 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0), style("b", 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0),
                      style("c", 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0), style("d", 9, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0),

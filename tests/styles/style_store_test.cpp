@@ -243,26 +243,44 @@ TEST(StyleFiles, FiftyCategoriesAndTwoHundredFiftyStylesLoadSilently) {
   EXPECT_TRUE(b.prompter.shown.empty());
 }
 
-TEST(StyleFiles, OneRowPastTheLimitIsReportedAndLoadingStopsWithinTheTables) {
-  Bench b;
-  writeFile(catPath(b), repeat(categoryBytes(), 60));
-  // 251 styles with the longest comments a count can give, then a megabyte of junk: the 251st
-  // style is still read whole, nothing after it is.
+// One row past the limit is reported with its own code (too many styles as corrupted ones, under
+// 32015), and then the read into the row behind the table ends the program.
+TEST(StyleFiles, OneRowPastTheLimitIsReportedAndEndsTheProgram) {
+  struct Case {
+    int categories, styles;
+    std::string message;  // the limit report, before the path
+    std::string tail;
+    std::string logged;
+  };
   const std::string longest(32767, 'k');
-  writeFile(stylePath(b), repeat(styleBytes() + commentBytes(longest), 251) + std::string(1 << 20, '\x7F'));
-  ASSERT_TRUE(LoadBeerStyles(*b.wb));  // no termination, no read past the tables
-  const StyleTables& t = b.wb->styles;
-  EXPECT_EQ(t.BeerCategoryCount, 51);
-  EXPECT_EQ(t.BeerStyleCount, 251);
-  EXPECT_EQ(t.BeerStyles[250].styleIndex, 250);
-  EXPECT_EQ(t.BeerStyles[250].comments, longest);
-  ASSERT_EQ(b.prompter.shown.size(), 2u);
-  EXPECT_EQ(b.prompter.shown[0].text,
-            "Maximum Beer Category Records Reached in " + catPath(b) + ", Additional Records Ignored");
-  // Too many styles are told as corrupted ones, under 32015.
-  EXPECT_EQ(b.prompter.shown[1].text, "Corrupted Beer Style Record(s) in " + stylePath(b) + ", Bad Records Ignored");
-  EXPECT_NE(readFile(b.wb->folder.file(kErrorLog)).find("Error #32014(Maximum Beer Categories Reached)"),
-            std::string::npos);
+  const std::vector<Case> cases = {
+      {51, 0, "Maximum Beer Category Records Reached in ", ", Additional Records Ignored",
+       "Error #32014(Maximum Beer Categories Reached)"},
+      {50, 251, "Corrupted Beer Style Record(s) in ", ", Bad Records Ignored",
+       "Error #32015(Invalid Beer Style Control Code)"},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.logged);
+    Bench b;
+    writeFile(catPath(b), repeat(categoryBytes(), c.categories));
+    // The longest comments a count can give, then a megabyte of junk: never read past the tables.
+    writeFile(stylePath(b), repeat(styleBytes() + commentBytes(longest), c.styles) + std::string(1 << 20, '\x7F'));
+    try {
+      LoadBeerStyles(*b.wb);
+      ADD_FAILURE() << "the load went on";
+    } catch (const Terminated& t) {
+      EXPECT_EQ(t.errorNumber, 9);
+    }
+    const std::string path = c.styles ? stylePath(b) : catPath(b);
+    const int row = c.styles ? 251 : 51;
+    EXPECT_EQ(test::shownLines(b.prompter),
+              (std::vector<std::string>{"Error: " + c.message + path + c.tail,
+                                        "Terminate Program: Error #9(Subscript out of range) in LoadBeerStyles at Line " +
+                                            std::to_string(row)}));
+    const std::string log = readFile(b.wb->folder.file(kErrorLog));
+    EXPECT_NE(log.find(c.logged), std::string::npos);
+    EXPECT_NE(log.find("Line #" + std::to_string(row) + "\nIn Function LoadBeerStyles\nTerminating"), std::string::npos);
+  }
 }
 
 TEST(StyleFiles, ABlankStyleIsCountedOnLoadAndDroppedOnSave) {
@@ -303,11 +321,11 @@ TEST(StyleFiles, CorruptedFilesNeverCrash) {
   Bench b;
   std::string junk;
   for (int i = 0; i < 20000; ++i) junk += static_cast<char>((i * 7919) & 0xFF);
-  writeFile(catPath(b), junk);
+  writeFile(catPath(b), junk.substr(0, 7000));  // fewer than 50 records: more would end the program
   writeFile(stylePath(b), junk);
   ASSERT_TRUE(LoadBeerStyles(*b.wb));
-  EXPECT_LE(b.wb->styles.BeerCategoryCount, 51);
-  EXPECT_LE(b.wb->styles.BeerStyleCount, 251);
+  EXPECT_EQ(b.wb->styles.BeerCategoryCount, 47);
+  EXPECT_LE(b.wb->styles.BeerStyleCount, 250);
   for (int r = 0; r < b.wb->styles.BeerStyleCount; ++r) (void)styleBrowserEntry(b.wb->styles, r);
 }
 
