@@ -279,7 +279,7 @@ void frmBeerStyles::showDetails() {
   RecipeStyleValues values;
   if (recipeValues) values = recipeValues();
   const auto b = styleRangeBars(s, recipeValues ? &values : nullptr);
-  for (size_t i = 0; i < bars.size(); ++i) bars[i]->setBar(b[i], any);
+  for (size_t i = 0; i < bars.size(); ++i) static_cast<StyleRangeBarView*>(bars[i])->setBar(b[i], any);
   txtComments->setPlainText(any ? qs(s.comments) : QString());
 }
 

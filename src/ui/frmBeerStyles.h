@@ -21,8 +21,6 @@ class QTreeWidgetItem;
 
 namespace zy {
 
-class StyleRangeBarView;
-
 class frmBeerStyles : public QMainWindow {
   Q_OBJECT
  public:
@@ -50,7 +48,8 @@ class frmBeerStyles : public QMainWindow {
   QTreeWidget* lvStyles = nullptr;
   QLabel* lblStyleName = nullptr;
   QLabel* lblStyleInfo = nullptr;
-  std::array<StyleRangeBarView*, 5> bars{};
+  // The five range bars; each one's tool tip tells its range and the recipe's value.
+  std::array<QWidget*, 5> bars{};
   QTextBrowser* txtComments = nullptr;
   QPushButton *cmdNew = nullptr, *cmdChange = nullptr, *cmdDelete = nullptr, *cmdNewRecipe = nullptr;
   QAction *mnuFileNewStyle = nullptr, *mnuFileChangeStyle = nullptr, *mnuFileDeleteStyle = nullptr,

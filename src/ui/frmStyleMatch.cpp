@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -85,6 +86,8 @@ void frmStyleMatch::refresh() {
 }
 
 void frmStyleMatch::repaintList() {
+  // Emptying the list would report the selection gone: the model's selection is the one kept.
+  const QSignalBlocker quiet(lvStyle);
   lvStyle->clear();
   for (const StyleMatchRow& r : model.rows) {
     QStringList cells{qs(r.name)};
