@@ -50,7 +50,7 @@ void dlgBeerStyleStats::refresh() {
 
 void dlgBeerStyleStats::showEvent(QShowEvent* event) {
   if (!placed_) {
-    restoreStylePlacement(this, wb_.settings, kSection, QSize(320, 190));
+    restoreStylePlacement(this, wb_.settings, kSection, QSize(320, 170));
     placed_ = true;
   }
   refresh();

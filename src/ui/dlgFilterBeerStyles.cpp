@@ -86,7 +86,7 @@ void dlgFilterBeerStyles::load() {
 int dlgFilterBeerStyles::exec() {
   load();
   if (!placed_) {
-    restoreStylePlacement(this, wb_.settings, kSection, QSize(420, 200));
+    restoreStylePlacement(this, wb_.settings, kSection, QSize(420, 170));
     placed_ = true;
   }
   return QDialog::exec();

@@ -172,7 +172,7 @@ frmBeerStyles::frmBeerStyles(Workbench& wb, QWidget* parent)
   lblStyleInfo->setWordWrap(true);
   auto* right = new QWidget;
   auto* rightLayout = new QVBoxLayout(right);
-  rightLayout->setContentsMargins(8, 0, 0, 0);
+  rightLayout->setContentsMargins(10, 4, 12, 4);
   rightLayout->addWidget(lblStyleName);
   rightLayout->addWidget(lblStyleInfo);
   for (auto& b : bars) {
@@ -182,6 +182,7 @@ frmBeerStyles::frmBeerStyles(Workbench& wb, QWidget* parent)
   auto* commentsCaption = new QLabel(tr("Comments:"));
   txtComments = new QTextBrowser;
   txtComments->setObjectName("txtComments");
+  txtComments->setPlaceholderText(tr("No comments for this style."));
   rightLayout->addWidget(commentsCaption);
   rightLayout->addWidget(txtComments, 1);
 
