@@ -374,8 +374,9 @@ void frmHopsUtilization::refresh() {
   for (int i = 0; i < 3; ++i) {
     optGravity[i]->setChecked(model.mode == i);
     const size_t k = static_cast<size_t>(i);
-    if (txtFactor[i]->text() != qs(model.txtFactor[k])) txtFactor[i]->setText(qs(model.txtFactor[k]));
+    // The length first: a shorter limit left from the other mode would cut the new text.
     txtFactor[i]->setMaxLength(model.factorMaxLength[k] > 0 ? model.factorMaxLength[k] : 32767);
+    if (txtFactor[i]->text() != qs(model.txtFactor[k])) txtFactor[i]->setText(qs(model.txtFactor[k]));
     txtFactor[i]->setEnabled(model.factorEnabled[k]);
     lblFactor[i]->setEnabled(model.factorEnabled[k]);
     txtFactor[i]->setReadOnly(model.factorLocked[k]);
@@ -437,6 +438,10 @@ bool frmHopsUtilization::eventFilter(QObject* watched, QEvent* event) {
   if (watched == grdUtil) {
     if (event->type() == QEvent::FocusIn && editorOpen()) {
       commitEditor();
+    } else if (event->type() == QEvent::KeyPress && editorOpen()) {
+      // Keys typed faster than the focus moved belong to the editor.
+      QApplication::sendEvent(txtEdit, event);
+      return true;
     } else if (event->type() == QEvent::KeyPress && !editorOpen()) {
       auto* k = static_cast<QKeyEvent*>(event);
       const QString t = k->text();
