@@ -69,7 +69,7 @@ void UtilGraphView::paintEvent(QPaintEvent*) {
   QPainter p(this);
   p.setRenderHint(QPainter::Antialiasing);
   const QFontMetrics fm = p.fontMetrics();
-  const int left = fm.horizontalAdvance("40% ") + 12, right = 14, top = fm.height() + 8;
+  const int left = fm.horizontalAdvance("40% ") + 12, right = 14, top = 2 * fm.height() + 4;
   const int bottom = 2 * fm.height() + 14;
   const QRect plot(left, top, std::max(10, width() - left - right), std::max(10, height() - top - bottom));
 
@@ -168,7 +168,8 @@ frmHopsUtilization::frmHopsUtilization(Workbench& wb, QWidget* parent) : QWidget
   grdUtil->setSelectionMode(QAbstractItemView::SingleSelection);
   grdUtil->setTabKeyNavigation(false);
   grdUtil->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-  grdUtil->verticalHeader()->setDefaultSectionSize(grdUtil->fontMetrics().height() + 4);
+  grdUtil->verticalHeader()->setMinimumSectionSize(grdUtil->fontMetrics().height() + 2);
+  grdUtil->verticalHeader()->setSectionResizeMode(QHeaderView::Stretch);  // the rows fill the height
   grdUtil->setToolTip(tr("Utilization in percent by boil minutes. Type a number over a value, or press "
                          "Space or double-click to change it; Return keeps it, Esc drops it."));
   for (int r = 0; r < kUtilRows; ++r) {
@@ -268,7 +269,7 @@ frmHopsUtilization::frmHopsUtilization(Workbench& wb, QWidget* parent) : QWidget
   factors->setColumnStretch(2, 1);
   fraFormula = new QStackedWidget(fraGravity);
   fraFormula->setObjectName("fraFormula");
-  auto* none = new QLabel(tr("No gravity adjustment: the curve above serves every gravity."), fraFormula);
+  auto* none = new QLabel(tr("No gravity adjustment: the one curve serves every gravity."), fraFormula);
   none->setWordWrap(true);
   fraFormula->addWidget(none);
   fraFormula->addWidget(buildFormulaPage(0));
@@ -349,6 +350,7 @@ QWidget* frmHopsUtilization::buildFormulaPage(int k) {
     QFont small = lblTop[k]->font();
     small.setPointSizeF(small.pointSizeF() * 0.85);
     lblTop[k]->setFont(small);
+    g->setVerticalSpacing(0);
     g->addWidget(new QLabel(tr("Adjusted Util % = Util % x "), page), 1, 0);
     g->addWidget(lblBottom[k], 1, 1);
     g->addWidget(lblTop[k], 0, 2);

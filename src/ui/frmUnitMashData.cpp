@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include "core/measures.h"
+#include "core/text.h"
 #include "recipes/RecipeEditor.h"
 #include "ui/QtPrompter.h"
 #include "ui/frmHelp.h"
@@ -110,12 +111,20 @@ frmUnitMashData::frmUnitMashData(Workbench& wb, RecipeEditor& editor, QWidget* p
   buttons->addStretch();
   buttons->addWidget(cmdOK);
   buttons->addWidget(cmdCancel);
+  lblRecipe = new QLabel(this);
+  lblRecipe->setObjectName("lblRecipe");
+  QFont bold = lblRecipe->font();
+  bold.setBold(true);
+  lblRecipe->setFont(bold);
   auto* all = new QVBoxLayout(this);
+  all->addWidget(lblRecipe);
+  all->addSpacing(4);
   all->addLayout(form);
   all->addStretch();
+  all->addSpacing(8);
   all->addLayout(buttons);
 
-  resize(380, 250);
+  resize(400, sizeHint().height());
   load();
 }
 
@@ -126,6 +135,7 @@ void frmUnitMashData::load() {
 
 void frmUnitMashData::refresh() {
   refreshing_ = true;
+  lblRecipe->setText(tr("Recipe: %1").arg(qs(trim(wb_.recipe.rec.recipeName))));
   cboRecipeUnitType->setCurrentIndex(model.cboRecipeUnitType);
   cboRecipeVolumeUnits->setCurrentIndex(model.cboRecipeVolumeUnits);
   cboMashType->setCurrentIndex(model.cboMashType);

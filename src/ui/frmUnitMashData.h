@@ -41,6 +41,7 @@ class frmUnitMashData : public QWidget {
 
   UnitMashData model;
 
+  QLabel* lblRecipe = nullptr;  // the recipe's name
   QComboBox* cboRecipeUnitType = nullptr;
   QComboBox* cboRecipeVolumeUnits = nullptr;
   QComboBox* cboMashType = nullptr;
