@@ -15,6 +15,8 @@
 #include "recipes/RecipeEditor.h"
 #include "recipes/RecipeStore.h"
 #include "support/TestSupport.h"
+#include "ui/UiSupport.h"
+#include "ui/frmHelp.h"
 #include "ui/frmHopsUtilization.h"
 #include "ui/frmUnitMashData.h"
 
@@ -140,6 +142,14 @@ TEST(HopsWindow, AcceptStoresCancelDrops) {
   for (auto [key, value] : {std::pair{"Title", "Garetz"}, {"Utilization 3", "1"}, {"Utilization 18", "25"},
                             {"Gravity Adjustment", "1"}, {"Factor 2", "0.2"}})
     EXPECT_EQ(b.settings.read("Hops Utilization", key, "?"), value) << key;
+
+  // Help opens the window's own page.
+  copyHelpPages(b.dir.path());
+  showActive(w);
+  QTest::mouseClick(w.cmdHelp, Qt::LeftButton);
+  auto* help = w.findChild<frmHelp*>();
+  ASSERT_NE(help, nullptr);
+  EXPECT_EQ(help->currentPage().toStdString(), "hops-utilization.html");
 }
 
 // A recipe open in the editor: a mashed malt and a hop boiled 60 minutes.
@@ -164,9 +174,13 @@ TEST(UnitMashWindow, ChoicesReachTheRecipeAndTheEditor) {
   int applied = 0;
   w.applied = [&] { ++applied; };
   showActive(w);
-  EXPECT_EQ(w.windowTitle(), "Recipe Units/Mash Data");
-  EXPECT_EQ(w.cboMashType->currentText(), "Infusion");
-  EXPECT_EQ(w.txtMashEfficiency->text(), "80");
+  EXPECT_EQ(w.windowTitle().toStdString(), "Recipe Units/Mash Data");
+  QString helpPage;
+  w.openHelp = [&](const QString& page) { helpPage = page; };
+  QTest::keyClick(&w, Qt::Key_F1);
+  EXPECT_EQ(helpPage.toStdString(), "unit-mash-data.html");
+  EXPECT_EQ(w.cboMashType->currentText().toStdString(), "Infusion");
+  EXPECT_EQ(w.txtMashEfficiency->text().toStdString(), "80");
   w.cboMashType->setCurrentIndex(0);
   EXPECT_EQ(w.txtMashEfficiency->text(), "N/A");
   EXPECT_FALSE(w.txtMashEfficiency->isEnabled());
