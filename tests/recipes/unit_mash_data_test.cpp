@@ -1,5 +1,5 @@
 // The recipe's units and mash data: what the window shows for each stored mash type and
-// efficiency, and what OK writes into the recipe and the editor, the boil-time floor included.
+// efficiency, and the boil-time floor of OK (the window test drives the rest of OK).
 #include <gtest/gtest.h>
 
 #include "core/measures.h"
@@ -54,62 +54,6 @@ TEST(UnitMashData, EfficiencyBoxFollowsTheMashType) {
     EXPECT_EQ(m.mashEffEnabled, c.enabled);
     EXPECT_EQ(m.txtBoilTime, "60");
   }
-  // Choosing a mash again brings the recipe's own efficiency back.
-  RecipeRecord r;
-  r.mashType = 2;
-  r.mashEfficiency = 68;
-  UnitMashData m;
-  m.load(r, d);
-  m.setMashType(0, d);
-  EXPECT_EQ(m.txtMashEfficiency, "N/A");
-  m.setMashType(3, d);
-  EXPECT_EQ(m.txtMashEfficiency, "68");
-}
-
-TEST(UnitMashData, OkStoresTheFieldsAndTheEditorFollows) {
-  MashBench t;
-  UnitMashData m;
-  m.load(t.wb.recipe.rec, t.wb.defaults);
-  EXPECT_EQ(m.txtMashEfficiency, "80");  // the editor opened it at the default
-  const std::string og = t.e.sheet.lblOG;
-  m.cboRecipeUnitType = METRIC_MEASURES;
-  m.cboRecipeVolumeUnits = LITER_CONST;
-  m.setMashType(3, t.wb.defaults);
-  m.txtMashEfficiency = "65";
-  m.txtBoilTime = "90";
-  ASSERT_TRUE(m.cmdOK(t.wb.recipe.rec, t.e, t.wb.defaults, t.b.prompter));
-  const RecipeRecord& r = t.wb.recipe.rec;
-  EXPECT_EQ(r.unitType, METRIC_MEASURES);
-  EXPECT_EQ(r.volumeUnits, LITER_CONST);
-  EXPECT_EQ(r.mashType, 3);
-  EXPECT_EQ(r.mashEfficiency, 65);
-  EXPECT_EQ(r.boilTime, 90);
-  EXPECT_EQ(t.e.lblUnitType, "Metric Measures");
-  EXPECT_EQ(t.e.lblVolumeUnits, "Liters");
-  EXPECT_EQ(t.e.lblMashType, "Step Infusion");
-  EXPECT_EQ(t.e.lblMashEff, "65");
-  EXPECT_EQ(t.e.txtBoilTime, "90");
-  EXPECT_EQ(t.e.fermentation.lblTempUnits, "\xB0" "C");
-  EXPECT_NE(t.e.sheet.lblOG, og);  // less extract from the mash
-  EXPECT_TRUE(t.e.recipeChanged());
-  EXPECT_TRUE(t.b.prompter.shown.empty());
-
-  // No mash: the efficiency becomes the default whatever the box held.
-  m.setMashType(0, t.wb.defaults);
-  ASSERT_TRUE(m.cmdOK(t.wb.recipe.rec, t.e, t.wb.defaults, t.b.prompter));
-  EXPECT_EQ(r.mashEfficiency, 80);
-  EXPECT_EQ(t.e.lblMashEff, "N/A");
-  EXPECT_FALSE(t.e.mashInfoEnabled);
-
-  // An efficiency that is no percentage is refused and nothing changes.
-  m.setMashType(2, t.wb.defaults);
-  for (const char* bad : {"0", "101", "abc", ""}) {
-    m.txtMashEfficiency = bad;
-    EXPECT_FALSE(m.cmdOK(t.wb.recipe.rec, t.e, t.wb.defaults, t.b.prompter)) << bad;
-  }
-  EXPECT_EQ(r.mashType, 0);
-  EXPECT_EQ(shownLines(t.b.prompter).back(),
-            "Recipe Units/Mash Data: The mash efficiency must be a whole number of percent from 1 to 100.");
 }
 
 TEST(UnitMashData, BoilTimeNeverBelowTheLongestHopsBoil) {

@@ -23,11 +23,9 @@ void saveShot(QWidget& w, const QString& dir, const QString& name) {
   const QString path = QDir(dir).filePath(name + ".png");
   ASSERT_TRUE(w.grab().save(path));
   const QImage img(path);
-  ASSERT_FALSE(img.isNull());
-  const QRgb first = img.pixel(0, 0);
   bool varied = false;
-  for (int y = 0; y < img.height() && !varied; y += 3)
-    for (int x = 0; x < img.width() && !varied; x += 3) varied = img.pixel(x, y) != first;
+  for (int y = 0; y < img.height() && !varied; y += 5)
+    for (int x = 0; x < img.width() && !varied; x += 5) varied = img.pixel(x, y) != img.pixel(0, 0);
   EXPECT_TRUE(varied) << name.toStdString() << " is blank";
 }
 
