@@ -65,11 +65,7 @@ TEST(NewRecipeFromStyle, OkStartsTheRecipeAndSeedsTheFormulator) {
   const FormulatorMalt& black = f.lvMalts[1];
   EXPECT_EQ(black.name, "Black Patent Malt");
   EXPECT_EQ(black.targetPct, "5.0");
-  EXPECT_EQ(black.quantity, "0.0");
-  EXPECT_EQ(black.cost, "$0.00");
-  EXPECT_EQ(black.color, "500.0");
-  EXPECT_EQ(black.extraction, "1.024");
-  EXPECT_TRUE(black.mash);
+  EXPECT_EQ(black.quantity + " " + black.cost + " " + black.color + " " + black.extraction, "0.0 $0.00 500.0 1.024");
   EXPECT_EQ(f.lblTotal, "(100%)");
   // The preset is replaced by what the inventory finds in the colour range.
   NewRecipeDialog withStock(cb.wb);

@@ -58,8 +58,7 @@ TEST(StarterCalculator, AddToRecipeWritesThePrimingCommentAndTheComment) {
   s.cmdAddYeast();
   EXPECT_EQ(cb.editor.comments.comment, "Yeast Starter Volume: 16 US Fl Oz\r\n");
   const int yeast = cb.editor.sheet.grid.headerRow(KIND_YEAST) + 1;
-  EXPECT_EQ(cb.editor.sheet.grid.cell(yeast, COL_UNITS), "Packet");
-  EXPECT_EQ(cb.editor.sheet.grid.cell(yeast, COL_QTY), "1");
+  EXPECT_EQ(cb.editor.sheet.grid.cell(yeast, COL_QTY) + " " + cb.editor.sheet.grid.cell(yeast, COL_UNITS), "1 Packet");
   EXPECT_TRUE(cb.editor.recipeChanged());
   EXPECT_EQ(shownLines(cb.b.prompter),
             (std::vector<std::string>{

@@ -18,8 +18,7 @@ TEST(WaterTreatment, SaltsGiveTheirIonsAsShownAndTotalsSumTheShownCells) {
   cb.open({CalcBench::pale(8)});
   WaterTreatment t(cb.editor);
   t.load();
-  EXPECT_EQ(t.grdChemical[6][1], "Sodium Chloride (Table Salt)");
-  EXPECT_EQ(t.grdChemical[2][1], "Calcium Chloride ");
+  EXPECT_EQ(t.grdChemical[6][1] + "|" + t.grdChemical[2][1], "Sodium Chloride (Table Salt)|Calcium Chloride ");
   // 8 g of table salt in 5 gallons: Cl 256, Na 166.4 shown as 166.
   t.setGrams(6, "8");
   EXPECT_EQ(t.txtTsp[6], "1.5");
@@ -77,9 +76,7 @@ TEST(WaterTreatment, RecipeSaltsLoadAndAcceptWritesTeaspoonsAndSettings) {
   cb.open({CalcBench::pale(8), makeItem(KIND_OTHER, "Gypsum", 2, 5), makeItem(KIND_OTHER, "Epsom", 3.4, UNIT_GR)});
   WaterTreatment t(cb.editor);
   t.load();
-  EXPECT_FALSE(t.Changed);
-  EXPECT_EQ(t.txtGrams[3], "9.6");
-  EXPECT_EQ(t.txtTsp[4], "1.0");
+  EXPECT_EQ(t.txtGrams[3] + " " + t.txtTsp[4] + " " + (t.Changed ? "changed" : "unchanged"), "9.6 1.0 unchanged");
   // Ca 9.6 * 62 / 5 = 119.04; SO4 284.16 + 3.4 * 103 / 5 = 70.04.
   EXPECT_EQ(row(t, WaterTreatment::ROW_TOTALS), (std::vector<std::string>{"119", "", "", "18", "", "354"}));
   t.selectFamous(5);
@@ -89,10 +86,8 @@ TEST(WaterTreatment, RecipeSaltsLoadAndAcceptWritesTeaspoonsAndSettings) {
   const IngredientTable& g = cb.editor.sheet.grid;
   const int first = g.headerRow(KIND_OTHER) + 1;
   ASSERT_EQ(g.itemCount(KIND_OTHER), 3);
-  EXPECT_EQ(g.cell(first + 1, COL_QTY), "1.0");
-  EXPECT_EQ(g.cell(first + 1, COL_UNITS), "Tsp");
-  EXPECT_EQ(g.cell(first + 2, COL_NAME), "Table Salt");
-  EXPECT_EQ(g.cell(first + 2, COL_QTY), "1.0");
+  EXPECT_EQ(g.cell(first + 1, COL_QTY) + " " + g.cell(first + 1, COL_UNITS), "1.0 Tsp");
+  EXPECT_EQ(g.cell(first + 2, COL_NAME) + " " + g.cell(first + 2, COL_QTY), "Table Salt 1.0");
   EXPECT_TRUE(cb.editor.recipeChanged());
 }
 
