@@ -339,6 +339,7 @@ bool MaltFormulator::mnuComputeOGColor() {
     return ok;
   };
   auto closeEnough = [&] {
+    computeTotalPct();
     wb_.prompter.message(kCloseEnough, kCaption, Icon::Information, Buttons::OK);
     return true;
   };

@@ -99,7 +99,9 @@ long NewRecipeDialog::cmdOK(RecipeEditor& editor, MaltFormulator& formulator, co
   // 5. The formulator aims at the middle of the style.
   formulator.txtTargetOG = formatNumber((ogLow + ogHigh) / 2.0, "0.000");
   formulator.txtTargetColor = formatNumber((srmLow + srmHigh) / 2.0, "0.0");
-  if (choice != NO_MASH) formulator.txtMashEff = formatNumber(wb_.defaults.mashEff, "0");
+  // A bill without a mash may still hold a grain for colour; it is counted at the default
+  // efficiency, as the dialog's box shows for the other choices.
+  formulator.txtMashEff = formatNumber(wb_.defaults.mashEff, "0");
   return slot;
 }
 
