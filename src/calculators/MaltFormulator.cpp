@@ -117,6 +117,7 @@ void MaltFormulator::deleteMalt(int row) {
                            Buttons::YesNo, Answer::No) != Answer::Yes)
     return;
   lvMalts.erase(lvMalts.begin() + row);
+  selectMalt(-1);
   computeTotalPct();
   maltsChanged();
 }
@@ -125,6 +126,16 @@ void MaltFormulator::setTargetPct(int row, const std::string& text) {
   if (row < 0 || row >= static_cast<int>(lvMalts.size())) return;
   lvMalts[static_cast<size_t>(row)].targetPct = text;
   computeTotalPct();
+}
+
+void MaltFormulator::selectMalt(int row) {
+  selectedRow = row >= 0 && row < static_cast<int>(lvMalts.size()) ? row : -1;
+  txtPct = selectedRow >= 0 ? lvMalts[static_cast<size_t>(selectedRow)].targetPct : std::string();
+}
+
+void MaltFormulator::setPct(const std::string& text) {
+  txtPct = text;
+  setTargetPct(selectedRow, text);
 }
 
 void MaltFormulator::leaveTargetOG() { txtTargetOG = formatNumber(val(txtTargetOG), "0.000"); }
@@ -325,7 +336,9 @@ bool MaltFormulator::mnuComputeOGColor() {
   maltsChanged();
 
   // The colour search trades the base malt for darker ones, a step at a time, from the last row
-  // up. Only malts darker than the base malt can raise the colour; the others are skipped.
+  // up. Only malts darker than the base malt can raise the colour; the others are skipped. At
+  // each step the quantities follow the new percentages, so that the gravity stays on target
+  // while the colour climbs. The base malt's percent falls at every step, which ends the search.
   const double baseColor = val(lvMalts[static_cast<size_t>(base)].color);
   std::vector<int> darker;
   for (int i = static_cast<int>(n) - 1; i >= 0; --i)

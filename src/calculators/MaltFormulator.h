@@ -53,6 +53,9 @@ class MaltFormulator {
   // Asks, then removes the selected row.
   void deleteMalt(int row);
   void setTargetPct(int row, const std::string& text);
+  // Selecting a row shows its target percent in txtPct; editing txtPct edits that row.
+  void selectMalt(int row);
+  void setPct(const std::string& text);
   void leaveTargetOG();
   void leaveTargetColor();
   void leaveMashEff();
@@ -83,6 +86,8 @@ class MaltFormulator {
   std::string txtTargetOG = "1.045", txtTargetColor = "8.0", txtMashEff = "85";
   std::string txtCompOG = "1.000", txtCompColor = "0.0";
   std::string lblTotal = "(0%)", lblQuantity;
+  int selectedRow = -1;
+  std::string txtPct;
   bool coarse = false;       // mnuComputeResolution(0)
   bool changed = false;
   bool computed = false;

@@ -85,6 +85,23 @@ double hopsWeightOunces(const RecipeEditor& editor) {
   return sum;
 }
 
+WaterBalanceInputs waterBalanceInputs(const RecipeEditor& editor) {
+  const RecipeRecord& rec = editor.wb.recipe.rec;
+  const Defaults& d = editor.wb.defaults;
+  WaterBalanceInputs in;
+  in.grainWeight = mashableGrainWeight(editor);
+  in.hopsWeight = hopsWeightOunces(editor);
+  in.boilVolume = cellValue(editor.sheet.txtInitalBoilVolume);
+  in.fermentVolume = cellValue(editor.sheet.txtFermentVolume);
+  in.mashRate = rec.mashWaterRate;
+  in.spargeRate = rec.spargeRate;
+  in.boilTime = rec.boilTime;
+  in.holdInitial = d.holdInitialVolume != 0;
+  in.holdFinal = d.holdFinalVolume != 0;
+  in.fullBoil = d.fullBoil != 0;
+  return in;
+}
+
 WaterManagement::WaterManagement(RecipeEditor& editor) : editor_(editor), wb_(editor.wb) {}
 
 void WaterManagement::load() {

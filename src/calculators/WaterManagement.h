@@ -48,6 +48,10 @@ struct WaterAdditions {
 // division by zero.
 WaterAdditions computeWaterAdditions(const WaterBalanceInputs& in, const Defaults& d, ErrorLog& errors);
 
+// The balance's inputs for the recipe in the editor: its grains and hops, the two volume boxes
+// as targets, the recipe's rates and boil time, and the three checks as the defaults set them.
+WaterBalanceInputs waterBalanceInputs(const RecipeEditor& editor);
+
 // The mashable grain weight of the editor's malts (mash column "Yes") in the default malt unit,
 // and the hops weight in ounces.
 double mashableGrainWeight(const RecipeEditor& editor);
