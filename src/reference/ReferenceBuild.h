@@ -4,7 +4,8 @@
 //
 // A topic source (data/reference/topics/*.txt, UTF-8):
 //   Title: Mashing
-//   Index: Mashing                      (optional; the title when absent)
+//   Index: Mashing                      (optional; the title when absent; shipped topics keep
+//                                       the two the same, so the list and the page agree)
 //   Order: 10                           (optional; lower comes first, default 1000)
 //   Image: mash-tun.png | The caption   (up to two)
 //   Also See: Sparging                  (any number of lines, up to 99)
