@@ -82,6 +82,8 @@ class frmRecipe : public QMainWindow {
   bool mnuFileSaveAs_Click();
   // Selects a grid row as a click does.
   void selectGridRow(int row);
+  // The save button's image and tip, and the title, after the changed flag moved.
+  void refreshSaveButton();
 
   // Controls, by their names.
   QLineEdit* txtTitle = nullptr;
@@ -144,7 +146,6 @@ class frmRecipe : public QMainWindow {
   void refreshTitle();
   void refreshResults();
   void refreshStrip();
-  void refreshSaveButton();
   // After an edit that changed texts only, or the rows.
   void afterEdit(bool rowsChanged = false);
 
