@@ -79,6 +79,7 @@ QLabel* valueLabel(QWidget* parent, const char* name, int width = 60) {
   l->setFrameShadow(QFrame::Sunken);
   l->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   l->setMinimumWidth(width);
+  l->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   l->setStyleSheet("QLabel { background: palette(base); padding: 1px 4px; }");
   return l;
 }
@@ -169,7 +170,7 @@ frmRecipe::frmRecipe(Workbench& wb, QWidget* parent) : QMainWindow(parent), wb_(
 
   for (int i = 0; i < kRecipeToolCount; ++i) setToolOpener(static_cast<RecipeTool>(i), {});
   refreshFromModel();
-  restoreWindowPlacement(*this, wb_.settings, kSection, QSize(1060, 780), QPoint(80, 40), QSize(900, 640));
+  restoreWindowPlacement(*this, wb_.settings, kSection, QSize(1080, 690), QPoint(80, 40), QSize(900, 640));
 }
 
 QAction* frmRecipe::toolAction(RecipeTool t, QMenu* menu, const QString& text) {
@@ -396,6 +397,7 @@ QWidget* frmRecipe::buildTitleFrame() {
   grid->addWidget(caption("&Fermentation Volume:", txtFermentVolume), 2, 0);
   grid->addWidget(txtFermentVolume, 2, 1);
   grid->addWidget(lblFermentUnits, 2, 2);
+  lblFermentUnits->setMinimumWidth(86);
   grid->addWidget(caption("Initial &Boil Volume:", txtInitalBoilVolume), 2, 3);
   auto* boilRow = new QHBoxLayout;
   boilRow->addWidget(txtInitalBoilVolume);
@@ -501,12 +503,12 @@ QWidget* frmRecipe::buildGrid() {
   grdIngredients->setShowGrid(true);
   grdIngredients->setContextMenuPolicy(Qt::CustomContextMenu);
   QHeaderView* hh = grdIngredients->horizontalHeader();
-  const int widths[8] = {118, 0, 70, 70, 78, 78, 70, 50};
+  const int widths[8] = {140, 0, 70, 70, 78, 86, 72, 50};
   for (int c = 0; c < 8; ++c) {
     if (c == COL_NAME) hh->setSectionResizeMode(c, QHeaderView::Stretch);
     else grdIngredients->setColumnWidth(c, widths[c]);
   }
-  grdIngredients->setMinimumHeight(21 * 17 + 6);
+  grdIngredients->setMinimumHeight(21 * 17 + 4);
   connect(grdIngredients->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           [this](const QModelIndex& cur) {
             if (painting_) return;

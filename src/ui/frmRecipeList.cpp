@@ -321,13 +321,18 @@ void frmRecipeList::mnuFileDelete_Click() {
   if (model().mnuFileDelete_Click(wb_)) refreshTree();
 }
 
+// A rebuild keeps the selected recipe selected, its group opened.
 void frmRecipeList::mnuSortBy_Click(int index) {
+  const std::string key = model().selectedKey;
   model().mnuSortBy_Click(wb_, index);
+  model().select(key);
   refreshTree();
 }
 
 void frmRecipeList::mnuSortLogCount_Click() {
+  const std::string key = model().selectedKey;
   model().mnuSortLogCount_Click(wb_);
+  model().select(key);
   refreshTree();
 }
 
