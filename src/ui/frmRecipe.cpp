@@ -409,6 +409,7 @@ QWidget* frmRecipe::buildTitleFrame() {
   grid->addWidget(caption("Mash:"), 3, 3);
   auto* mashRow = new QHBoxLayout;
   mashRow->addWidget(lblMashType);
+  mashRow->addSpacing(8);
   mashRow->addWidget(new QLabel("Efficiency %:"));
   mashRow->addWidget(lblMashEff);
   mashRow->addSpacing(8);
@@ -503,7 +504,7 @@ QWidget* frmRecipe::buildGrid() {
   grdIngredients->setShowGrid(true);
   grdIngredients->setContextMenuPolicy(Qt::CustomContextMenu);
   QHeaderView* hh = grdIngredients->horizontalHeader();
-  const int widths[8] = {140, 0, 70, 70, 78, 86, 72, 50};
+  const int widths[8] = {160, 0, 70, 70, 78, 96, 72, 50};
   for (int c = 0; c < 8; ++c) {
     if (c == COL_NAME) hh->setSectionResizeMode(c, QHeaderView::Stretch);
     else grdIngredients->setColumnWidth(c, widths[c]);

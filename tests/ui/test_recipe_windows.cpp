@@ -18,7 +18,9 @@
 #include "ui/RecipeBench.h"
 #include "ui/RecipeIcons.h"
 #include "workbench/Startup.h"
+#include "recipes/RecipeExchange.h"
 #include "ui/dlgScale.h"
+#include "ui/frmHelp.h"
 #include "ui/frmFermentation.h"
 #include "ui/frmFind.h"
 #include "ui/frmRecipe.h"
@@ -246,6 +248,12 @@ TEST_F(WindowsTest, ToolsWithoutAWindowStayDisabledWithATip) {
   r.refreshFromModel();
   EXPECT_FALSE(r.mnuInstructMashInfo->isEnabled());
   EXPECT_EQ(r.lblMashEff->text(), "N/A");
+
+  // Help opens each window's own page.
+  r.tb["Help"]->trigger();
+  EXPECT_EQ(b.main->help()->currentPage(), "recipe-editor.html");
+  list->tbHelp->trigger();
+  EXPECT_EQ(b.main->help()->currentPage(), "recipe-list.html");
 }
 
 TEST_F(WindowsTest, ScaleDialogDoublesTheBatch) {
@@ -289,6 +297,29 @@ TEST_F(WindowsTest, FermentationAgingBoxFollowsIncludeAndMarksChanged) {
   editor().tb["Ferment"]->trigger();
   editor().close();
   EXPECT_FALSE(f.isVisible());
+}
+
+TEST(RecipeWindowsStartup, ARecipeFileOnTheCommandLineOpensTheListWithTheImportSelected) {
+  RecipeBench b;
+  b.storeDozen(1, "Copper Amber");
+  const std::string file = b.dir.file("amber.zyr");
+  std::FILE* f = std::fopen(file.c_str(), "wb");
+  ASSERT_TRUE(exportRecipe(*b.wb, f));
+  std::fclose(f);
+
+  frmMain m(*b.wb);
+  m.quitOnClose = false;
+  ProgramWindows w(*b.wb, m);
+  m.load(file);
+  EXPECT_EQ(m.importedRecipe, 2);
+  frmRecipeList& l = w.recipeList();
+  EXPECT_TRUE(l.isVisible());
+  EXPECT_EQ(l.tvRecipes->currentItem()->text(0), "Copper Amber (Duplicate)");
+  // The main window's close closes the others for good.
+  m.show();
+  m.close();
+  EXPECT_TRUE(b.wb->appClosing);
+  EXPECT_FALSE(l.isVisible());
 }
 
 }  // namespace
