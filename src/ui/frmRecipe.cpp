@@ -401,6 +401,7 @@ QWidget* frmRecipe::buildTitleFrame() {
   grid->addWidget(caption("Initial &Boil Volume:", txtInitalBoilVolume), 2, 3);
   auto* boilRow = new QHBoxLayout;
   boilRow->addWidget(txtInitalBoilVolume);
+  boilRow->addSpacing(4);
   boilRow->addWidget(lblBoilUnits);
   boilRow->addStretch();
   grid->addLayout(boilRow, 2, 4);
