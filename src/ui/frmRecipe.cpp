@@ -818,9 +818,8 @@ void frmRecipe::refreshSaveButton() {
   save->setToolTip(tip);
   save->setStatusTip(tip);
   mnuFileSave->setIcon(icon);
-  setWindowModified(editor_.recipeChanged());
-  setWindowTitle(QString("%1 - %2%3").arg(RecipeEditor::kCaption, qs(editor_.txtTitle),
-                                         editor_.recipeChanged() ? " *" : ""));
+  // The recipe's name and state also stand in the status line.
+  statusBar()->showMessage(qs(editor_.txtTitle) + (editor_.recipeChanged() ? " - changed" : ""));
 }
 
 void frmRecipe::afterEdit(bool rowsChanged) {
