@@ -371,7 +371,8 @@ void frmMain::buildMenus() {
   // Ctrl+Tab and Ctrl+Shift+Tab walk through the topic lists, wherever the focus is.
   for (int step : {1, -1}) {
     auto* walk = new QAction(this);
-    walk->setShortcut(step > 0 ? QKeySequence(Qt::CTRL | Qt::Key_Tab) : QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab));
+    if (step > 0) walk->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Tab));
+    else walk->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab)});
     walk->setShortcutContext(Qt::WindowShortcut);
     connect(walk, &QAction::triggered, this, [this, step] {
       tabTopics->setCurrentIndex((tabTopics->currentIndex() + step + kTopicTreeCount) % kTopicTreeCount);

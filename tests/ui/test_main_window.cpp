@@ -10,7 +10,11 @@
 #include <QPushButton>
 #include <QTabBar>
 #include <QTest>
+#include <QAbstractTextDocumentLayout>
+#include <QTabWidget>
 #include <QTextBrowser>
+#include <QTextFrame>
+#include <QTextTable>
 #include <QStatusBar>
 #include <QThread>
 #include <QToolBar>
@@ -29,6 +33,7 @@
 #include "ui/frmAbout.h"
 #include "ui/frmHelp.h"
 #include "ui/frmMain.h"
+#include "ui/frmProperties.h"
 
 namespace zy::test {
 namespace {
@@ -225,6 +230,56 @@ TEST(MainWindow, MenusAndToolbar) {
   b.w->mnuHelpContents->trigger();
   EXPECT_EQ(b.w->help()->tabs->currentIndex(), 0);
   EXPECT_EQ(b.w->help()->currentPage(), "Zythara.html");
+}
+
+TEST(MainWindow, KeyboardAndLayout) {
+  MainBench b;
+  EXPECT_EQ(accessKeyClashes(b.w.get()), std::vector<std::string>{});
+  // Ctrl+Tab walks the topic lists forward, Ctrl+Shift+Tab back, wherever the focus is.
+  b.w->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(b.w.get()));
+  b.tree(TreeAllTopics)->setFocus();
+  QTest::keyClick(b.tree(TreeAllTopics), Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_EQ(b.w->tabTopics->currentIndex(), TreeMiniBooks);
+  QTest::keyClick(b.w->webTopic, Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+  QTest::keyClick(b.w->webTopic, Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(b.w->tabTopics->currentIndex(), TreeSearch);
+
+  // The first topic's picture floats at the left, its text beside it rather than below.
+  QTextFrame* picture = nullptr;
+  for (QTextFrame* f : b.w->webTopic->document()->rootFrame()->childFrames())
+    if (qobject_cast<QTextTable*>(f)) picture = f;
+  ASSERT_NE(picture, nullptr);
+  EXPECT_EQ(picture->frameFormat().position(), QTextFrameFormat::FloatLeft);
+  QTextCursor body = b.w->webTopic->document()->find("Malt gives the wort");
+  ASSERT_FALSE(body.isNull());
+  QAbstractTextDocumentLayout* layout = b.w->webTopic->document()->documentLayout();
+  EXPECT_LT(layout->blockBoundingRect(body.block()).top(), layout->frameBoundingRect(picture).bottom());
+
+  // At the smallest size the lists and the page lie side by side, and a long title gives way.
+  b.w->resize(b.w->minimumSize());
+  QApplication::processEvents();
+  QWidget* lists = b.w->tabTopics->parentWidget();
+  QWidget* page = b.w->webTopic->parentWidget();
+  EXPECT_LE(lists->mapTo(b.w.get(), QPoint(lists->width(), 0)).x(), page->mapTo(b.w.get(), QPoint(0, 0)).x());
+  EXPECT_LE(page->mapTo(b.w.get(), QPoint(page->width(), 0)).x(), b.w->width());
+  b.w->lblTitle->setText(QString(200, 'W'));
+  EXPECT_LT(b.w->lblTitle->minimumSizeHint().width(), page->width());
+}
+
+TEST(MainWindow, AccessKeysOfTheOtherWindowsAreUnique) {
+  MainBench b;
+  frmProperties props(*b.wb);
+  frmHelp help(qs(b.wb->folder.helpFolder()));
+  frmAbout about;
+  dlgSelectFolder folders("Backup All Zythara Databases", qs(b.dir.path()));
+  for (QTabWidget* pages : {props.tbsOptions, help.tabs})
+    for (int i = 0; i < pages->count(); ++i) {
+      pages->setCurrentIndex(i);
+      EXPECT_EQ(accessKeyClashes(pages->window()), std::vector<std::string>{}) << i;
+    }
+  EXPECT_EQ(accessKeyClashes(&about), std::vector<std::string>{});
+  EXPECT_EQ(accessKeyClashes(&folders), std::vector<std::string>{});
 }
 
 TEST(MainWindow, QuillmarkNeedsItsPathThenStarts) {
