@@ -44,23 +44,6 @@ std::string itemBytes(int owner, int kind, const std::string& name, double qty) 
 std::string commentBytes(int owner, const std::string& text) { return le16(200) + le16(owner) + pad(text, 120) + le16(299); }
 }  // namespace
 
-TEST(CliStore, VersionAndDefaults) {
-  CliHome h;
-  CliResult v = h.run({"version"});
-  EXPECT_EQ(v.status, 0);
-  EXPECT_EQ(v.out, versionText() + "\n");
-  CliResult d = h.run({"defaults"});
-  EXPECT_EQ(d.status, 0);
-  auto lines = split(d.out, '\n');
-  ASSERT_EQ(lines.size(), 96u);  // 95 keys and the last line end
-  EXPECT_EQ(lines[0], "User Name=");
-  EXPECT_EQ(lines[5], "Auto Update=1");
-  EXPECT_EQ(lines[21], "Initial Ferm=5");
-  EXPECT_EQ(lines[22], "Malt Name=Malt");
-  EXPECT_EQ(lines[76], "Threshold=0.25");
-  EXPECT_EQ(lines[94], "Extra Text=");
-}
-
 TEST(CliStore, ScanAndDumpFilesOfAnotherWriter) {
   CliHome h;
   ASSERT_EQ(recipeBytes(1, "x", 0, 0).size(), 1546u);

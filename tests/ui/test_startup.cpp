@@ -141,7 +141,7 @@ TEST(Startup, CommandLineSkipsTheWaitAndImportsTheRecipe) {
   w->close();
 }
 
-TEST(Startup, CommandLineMissingFileImportsNothingARefusedOneStoresTheDefault) {
+TEST(Startup, CommandLineMissingFileImportsNothing) {
   StartBench b;
   SubMain start(*b.wb);
   frmMain* w = start.run(b.dir.file("nothing-here.zyr"), [](frmMain& m) { m.quitOnClose = false; });
@@ -149,18 +149,6 @@ TEST(Startup, CommandLineMissingFileImportsNothingARefusedOneStoresTheDefault) {
   EXPECT_EQ(w->importedRecipe, 0);
   EXPECT_TRUE(b.prompter.shown.empty());
   w->close();
-
-  // A file the exchange reader refuses: its message, then, as the list's import does, the
-  // new-recipe default is stored and selected in its place.
-  const std::string junk = b.dir.file("junk.zyr");
-  writeFile(junk, "hello, world\r\n");
-  long no = importCommandLineRecipe(*b.wb, junk);
-  ASSERT_EQ(b.prompter.shown.size(), 1u);
-  EXPECT_EQ(b.prompter.shown[0].text, "Not a Recognized Zythara Recipe File");
-  ASSERT_GT(no, 0);
-  ASSERT_TRUE(loadRecipe(*b.wb, no));
-  EXPECT_EQ(trim(b.wb->recipe.rec.recipeName), "A Beer Recipe");
-  EXPECT_EQ(b.wb->recipeList.selectedKey, "R" + std::to_string(no));
 }
 
 TEST(Startup, ClickOnTheSplashEndsTheWaitAndAMissingHelpFileWarnsOnce) {
