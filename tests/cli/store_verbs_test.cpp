@@ -69,14 +69,10 @@ TEST(CliStore, ScanAndDumpFilesOfAnotherWriter) {
   EXPECT_EQ(lines[8], "fermentVolume=5.25");
   EXPECT_TRUE(has("mashStepTemp[0]=152"));
   EXPECT_TRUE(has("mashStepComment[0]=Sacch rest"));
-  EXPECT_TRUE(has("mashStepComment[12]="));
-  EXPECT_TRUE(has("agingUnits=-1"));
-  EXPECT_TRUE(has("agingTemp=-9999"));
-  EXPECT_TRUE(has("originalGravity=1.052"));
-  EXPECT_TRUE(has("item[0].itemName=Pale Malt"));
-  EXPECT_TRUE(has("item[1].itemName=Fuggle"));
-  EXPECT_TRUE(has("item[1].mashFlag=-1"));
-  EXPECT_TRUE(has("item[1].rating=1.036"));
+  for (const char* l : {"mashStepComment[12]=", "agingUnits=-1", "agingTemp=-9999", "originalGravity=1.052",
+                        "item[0].itemName=Pale Malt", "item[1].itemName=Fuggle", "item[1].mashFlag=-1",
+                        "item[1].rating=1.036"})
+    EXPECT_TRUE(has(l)) << l;
   EXPECT_FALSE(has("item[2].itemName=Munich"));
   EXPECT_EQ(lines[lines.size() - 2], "comment=" + std::string(118, 'a') + "\\nend");
   // The fields come in record order.

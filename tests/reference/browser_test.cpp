@@ -242,19 +242,5 @@ TEST(ReferenceBrowser, AStoreWithThreePicturesShowsTwoAndStillReadsItsAlsoSee) {
   EXPECT_EQ(b.wb->errors.reportCount, 0);
 }
 
-TEST(ReferenceBrowser, TabsShowTheirPanels) {
-  Loaded l;
-  l.br.selectTab(TreeSearch);
-  EXPECT_TRUE(l.br.searchPanelVisible());
-  EXPECT_FALSE(l.br.alsoSeePanelVisible());
-  l.br.selectTab(TreeAlsoSee);
-  EXPECT_TRUE(l.br.alsoSeePanelVisible());
-  l.br.selectTab(7);
-  EXPECT_EQ(l.br.currentTab, TreeAlsoSee);
-  l.br.showFirstTopic();
-  EXPECT_EQ(l.br.currentTab, TreeAllTopics);
-  EXPECT_EQ(std::string(kTopicTabKeys[3]), "Also See");
-}
-
 }  // namespace
 }  // namespace zy::test
