@@ -367,25 +367,21 @@ TEST(RecipeEditor, MovesStayWithinTheSection) {
   e.AddIngredient(KIND_MALT, "Munich", 2, 0, 0, 1.035, 9, -1);
   e.AddIngredient(KIND_HOPS, "Saaz", 1, 1, 0, 3.5, 60, 0);
   e.AddIngredient(KIND_HOPS, "Cascade", 1, 1, 0, 5.5, 5, 0);
-  IngredientTable& g = e.sheet.grid;
-  e.selectRow(2);
-  e.mnuSortDown_Click();  // the hops header is no neighbour
-  EXPECT_EQ(g.cell(2, COL_NAME), "Munich");
-  e.mnuSortUp_Click();
-  EXPECT_EQ(g.cell(1, COL_NAME), "Munich");
-  EXPECT_EQ(g.cell(2, COL_NAME), "Pale");
-  EXPECT_EQ(e.selectedRow, 1);
-  e.mnuSortUp_Click();  // already first
-  EXPECT_EQ(g.cell(1, COL_NAME), "Munich");
-  e.selectRow(4);
-  e.mnuSortUp_Click();
-  EXPECT_EQ(g.cell(4, COL_NAME), "Saaz");
-  e.mnuSortDown_Click();
-  EXPECT_EQ(g.cell(5, COL_NAME), "Saaz");
-  EXPECT_EQ(g.cell(4, COL_NAME), "Cascade");
-  EXPECT_EQ(g.cell(5, COL_DETAIL), "60");
-  e.mnuSortDown_Click();  // the last hop: the next row is a header
-  EXPECT_EQ(g.cell(5, COL_NAME), "Saaz");
+  auto rows = [&] {
+    std::string v;
+    for (int r = 1; r <= 5; ++r) v += e.sheet.grid.cell(r, COL_NAME) + e.sheet.grid.cell(r, COL_DETAIL) + ",";
+    return v + "@" + itos(e.selectedRow);
+  };
+  // A head or the section's end is no neighbour: those moves change nothing.
+  struct { int select; bool up; const char* after; } moves[] = {
+      {2, false, "Pale3.0,Munich9.0,Boil Time,Saaz60,Cascade5,@2"},  {-1, true, "Munich9.0,Pale3.0,Boil Time,Saaz60,Cascade5,@1"},
+      {-1, true, "Munich9.0,Pale3.0,Boil Time,Saaz60,Cascade5,@1"},  {4, true, "Munich9.0,Pale3.0,Boil Time,Saaz60,Cascade5,@4"},
+      {-1, false, "Munich9.0,Pale3.0,Boil Time,Cascade5,Saaz60,@5"}, {-1, false, "Munich9.0,Pale3.0,Boil Time,Cascade5,Saaz60,@5"}};
+  for (const auto& m : moves) {
+    if (m.select >= 0) e.selectRow(m.select);
+    m.up ? e.mnuSortUp_Click() : e.mnuSortDown_Click();
+    EXPECT_EQ(rows(), m.after);
+  }
 }
 
 TEST(RecipeEditor, DeleteAsksAndNewButtonsUseTheDefaults) {
@@ -393,21 +389,19 @@ TEST(RecipeEditor, DeleteAsksAndNewButtonsUseTheDefaults) {
   t.openAmber();
   RecipeEditor& e = t.e;
   e.selectRow(2);
-  t.b.prompter.answers = {Answer::No};
+  t.b.prompter.answers = {Answer::No, Answer::Yes};
   e.cmdDeleteIngredient_Click();
   EXPECT_EQ(t.msgs(), std::vector<std::string>{"Delete Ingredient: Do you want to Delete \"Crystal 60\" from the Recipe?"});
   EXPECT_EQ(t.lastMessage()->buttons, Buttons::YesNo);
   EXPECT_EQ(e.sheet.grid.itemCount(), 6);
   EXPECT_FALSE(e.recipeChanged());
-  t.b.prompter.answers = {Answer::Yes};
   e.cmdDeleteIngredient_Click();
   EXPECT_EQ(e.sheet.grid.itemCount(), 5);
-  EXPECT_EQ(e.sheet.lblColor, "3.8");  // 3 * 8 * 0.8 / 5
-  EXPECT_EQ(e.sheet.grid.cell(e.sheet.grid.totalRow(), COL_COST), "$16.14");
+  // 3 * 8 * 0.8 / 5, and the cost without the crystal.
+  EXPECT_EQ(e.sheet.lblColor + " " + e.sheet.grid.cell(e.sheet.grid.totalRow(), COL_COST), "3.8 $16.14");
   EXPECT_FALSE(e.strip.visible);
   EXPECT_TRUE(e.recipeChanged());
-  EXPECT_EQ(e.saveButtonImage(), "Save-Changed");
-  EXPECT_EQ(e.saveButtonTip(), "Save Recipe - Changed");
+  EXPECT_EQ(e.saveButtonImage() + "/" + e.saveButtonTip(), "Save-Changed/Save Recipe - Changed");
 
   EditorBench n;
   RecipeEditor& f = n.e;
@@ -419,42 +413,37 @@ TEST(RecipeEditor, DeleteAsksAndNewButtonsUseTheDefaults) {
   for (int kind = 0; kind < 4; ++kind) {
     f.cmdAddNew_Click(kind);
     ASSERT_TRUE(f.strip.visible);
-    const int r = f.selectedRow;
     EXPECT_EQ(f.selectedKind, kind);
-    for (int c = 0; c < 8; ++c) EXPECT_EQ(f.sheet.grid.cell(r, c), expected[kind][c]) << kind << "," << c;
+    for (int c = 0; c < 8; ++c) EXPECT_EQ(f.sheet.grid.cell(f.selectedRow, c), expected[kind][c]) << kind << "," << c;
   }
   EXPECT_EQ(f.strip.lblExtraction, "Attenuation %:");
   EXPECT_TRUE(f.recipeChanged());
-  EXPECT_EQ(f.sheet.grid.cell(f.sheet.grid.totalRow(), COL_COST), "$5.75");
-  EXPECT_EQ(f.sheet.lblOG, "1.006");  // 1 lb of 1.032 in 5 gallons
+  // 1 lb of 1.032 in 5 gallons.
+  EXPECT_EQ(f.sheet.grid.cell(f.sheet.grid.totalRow(), COL_COST) + " " + f.sheet.lblOG, "$5.75 1.006");
 }
 
 TEST(RecipeEditor, EditStripFollowsTheKindAndRecomputesByTheTable) {
   EditorBench t;
   t.openAmber();
   RecipeEditor& e = t.e;
-  e.selectRow(1);
-  EXPECT_EQ(e.strip.lblExtraction, "Extraction Rating:");
-  EXPECT_EQ(e.strip.lblColor, "Color:");
-  EXPECT_TRUE(e.strip.showMash);
+  // Per selected row: the captions, which boxes show, and the length of the unit list.
+  auto strip = [&](int row) {
+    e.selectRow(row);
+    const EditStrip& s = e.strip;
+    return std::string(s.showExtraction ? "E" : "-") + (s.showColor ? "C" : "-") + (s.showMash ? "M" : "-") + "|" +
+           itos(static_cast<long>(s.unitList.size())) + "|" + s.lblExtraction + "|" + s.lblColor;
+  };
+  EXPECT_EQ(strip(1), "ECM|4|Extraction Rating:|Color:");
   EXPECT_TRUE(e.strip.chkMash);
   EXPECT_EQ(e.strip.lblExtPct, "(77%)");
-  EXPECT_EQ(e.strip.unitList.size(), 4u);
   EXPECT_FALSE(e.recipeChanged());  // filling the strip is no edit
   e.setExtraction("1.037");
-  EXPECT_EQ(e.sheet.grid.cell(1, COL_RATING), "1.037");
-  EXPECT_EQ(e.strip.lblExtPct, "(79%)");
+  EXPECT_EQ(e.sheet.grid.cell(1, COL_RATING) + " " + e.strip.lblExtPct, "1.037 (79%)");
   e.setMash(false);
   EXPECT_EQ(e.sheet.grid.cell(1, COL_MASH), "No");
   EXPECT_EQ(e.sheet.lblOG, "1.066");  // 8 * 0.037 + 0.034 = 0.330 / 5
-  e.selectRow(4);
-  EXPECT_EQ(e.strip.lblExtraction, "Alpha %:");
-  EXPECT_EQ(e.strip.lblColor, "Boil Time:");
-  EXPECT_FALSE(e.strip.showMash);
-  e.selectRow(7);
-  EXPECT_FALSE(e.strip.showExtraction);
-  EXPECT_FALSE(e.strip.showColor);
-  EXPECT_EQ(e.strip.unitList.size(), 14u);
+  EXPECT_EQ(strip(4), "EC-|4|Alpha %:|Boil Time:");
+  EXPECT_EQ(strip(7).substr(0, 6), "---|14");
   e.selectRow(3);  // a header clears the strip
   EXPECT_FALSE(e.strip.visible);
   EXPECT_EQ(e.selectedRow, -1);
@@ -628,21 +617,17 @@ TEST(RecipeEditor, ClosingAsksWhenChanged) {
   ASSERT_TRUE(t.e.openRecipe(1));
   EXPECT_TRUE(t.e.queryClose());  // unchanged: no question
   EXPECT_TRUE(t.b.prompter.shown.empty());
-
+  // Cancel keeps the window and the change; No closes and forgets; Yes saves.
   t.e.setTitle("Amber Ale");
-  t.b.prompter.answers = {Answer::Cancel};
+  t.b.prompter.answers = {Answer::Cancel, Answer::No, Answer::Yes};
   EXPECT_FALSE(t.e.queryClose());
   EXPECT_EQ(t.msgs(), std::vector<std::string>{"Save Recipe: Recipe has Changed, Save Changes?"});
   EXPECT_EQ(t.lastMessage()->buttons, Buttons::YesNoCancel);
   EXPECT_TRUE(t.e.recipeChanged());
-
-  t.b.prompter.answers = {Answer::No};
   EXPECT_TRUE(t.e.queryClose());
   EXPECT_FALSE(t.e.recipeChanged());
   EXPECT_EQ(t.data(kRecipeFile), recipes);
-
   t.e.setTitle("Amber Ale");
-  t.b.prompter.answers = {Answer::Yes};
   EXPECT_TRUE(t.e.queryClose());
   ASSERT_TRUE(loadRecipe(t.wb, 1));
   EXPECT_EQ(trim(t.wb.recipe.rec.recipeName), "Amber Ale");
