@@ -100,12 +100,9 @@ TEST(CliStore, NewAndDeleteThenReuse) {
 
 TEST(CliStore, UsageErrorsAndReportedErrors) {
   CliHome h;
-  EXPECT_EQ(h.run({}).status, 2);
-  EXPECT_EQ(h.run({"frobnicate"}).status, 2);
-  EXPECT_EQ(h.run({"dump"}).status, 2);
-  EXPECT_EQ(h.run({"dump", "x"}).status, 2);
-  EXPECT_EQ(h.run({"delete", "0"}).status, 2);
-  EXPECT_EQ(h.run({"new"}).status, 2);
+  for (const auto& args : std::vector<std::vector<std::string>>{{}, {"frobnicate"}, {"dump"}, {"dump", "x"},
+                                                                 {"delete", "0"}, {"new"}})
+    EXPECT_EQ(h.run(args).status, 2) << (args.empty() ? "" : args[0]);
   std::string bad = recipeBytes(1, "Broken", 0, 0);
   bad[0] = 1;
   writeFile(h.data("ZYRecipe.dat"), recipeBytes(1, "Fine", 0, 0) + bad);
