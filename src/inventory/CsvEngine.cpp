@@ -1,5 +1,6 @@
 #include "inventory/CsvEngine.h"
 
+#include <algorithm>
 #include <cstdio>
 
 #include "core/text.h"
@@ -85,8 +86,13 @@ int CsvEngine::importCsvRecords(CsvSource& source, std::string headRest, int fie
   // the working table, so it is cut at its end.
   if (fieldCount >= kMaxCsvFields) fieldCount = kMaxCsvFields - 1;
   if (fieldCount >= static_cast<int>(fieldNames.size())) fieldCount = static_cast<int>(fieldNames.size()) - 1;
-  for (int i = firstField; i <= fieldCount; ++i) importFields[static_cast<size_t>(i)] = nextCsvField(headRest);
-  headFields.assign(importFields.begin(), importFields.begin() + (fieldCount + 1));
+  // The caller has put the fields it took (0 .. firstField - 1) in place already.
+  headFields.assign(importFields.begin(), importFields.begin() + std::max(0, std::min(firstField, fieldCount + 1)));
+  for (int i = firstField; i <= fieldCount; ++i) {
+    const bool present = !headRest.empty();
+    importFields[static_cast<size_t>(i)] = nextCsvField(headRest);
+    if (present) headFields.push_back(importFields[static_cast<size_t>(i)]);
+  }
   while (!headRest.empty() && headFields.size() < static_cast<size_t>(kMaxCsvFields))
     headFields.push_back(nextCsvField(headRest));
 

@@ -226,6 +226,7 @@ ImportResult importInventory(const ExchangePorts& p, Inventory& inventory, int c
   const std::string first = nextCsvField(rest);
   int method = METHOD_INVENTORY_OLD, firstField = 1, wrongField = 0;
   std::string read = first;
+  engine.importFields[0] = first;
   CsvLayout layout;
   bool structureOk;
   if (first == "Inventory") {
