@@ -73,6 +73,7 @@ void ShoppingList::addItem(int category, const std::string& name, double quantit
   }
   ShoppingRow& row = rows[static_cast<size_t>(r)];
   if (addToExisting) quantity += strictValue(row.cells[2]).value_or(0.0);
+  row.quantity = quantity;
   row.cells[2] = formatNumber(quantity, "0.0#");
   row.cells[3] = units;
   row.cells[4] = formatNumber(unitCost, "Currency");
@@ -137,7 +138,7 @@ std::vector<ShoppingReportLine> ShoppingList::reportLines() const {
     std::string cost = r.cells[5];
     if (roundToWholeUnits) {
       // Up to the next whole unit; a hair above a whole (1.005) stays on it.
-      const double whole = std::floor(money(r.cells[2]) + 0.99);
+      const double whole = std::floor(r.quantity + 0.99);
       qty = formatNumber(whole, "0.##");
       if (!qty.empty() && qty.back() == '.') qty.pop_back();
       cost = formatNumber(whole * money(r.cells[4]), "Currency");

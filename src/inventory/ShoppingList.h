@@ -26,6 +26,9 @@ struct ShoppingRow {
   // [0] the category name (the row text), [1] item, [2] quantity "0.0#", [3] unit name,
   // [4] cost per unit and [5] the row's estimated cost ("Total"), both "Currency".
   std::array<std::string, 6> cells;
+  // The quantity as it was last given, before the list's rounding to two decimals: the printed
+  // list takes it up to whole units from here.
+  double quantity = 0;
   const std::string& category() const { return cells[0]; }
   const std::string& item() const { return cells[1]; }
 };
