@@ -2,9 +2,11 @@
 
 #include <cerrno>
 #include <cmath>
+#include <algorithm>
 #include <cstdio>
 
 #include "core/dates.h"
+#include "core/defaults.h"
 #include "core/numfmt.h"
 #include "core/text.h"
 #include "recipes/IngredientTable.h"
@@ -327,6 +329,50 @@ bool ShoppingList::loadFrom(const std::string& path) {
   }
   calcTotalCost();
   return ok;
+}
+
+// ---- The add dialog -------------------------------------------------------------------------
+
+AddToShopForm AddToShopForm::addToShoppingList(int category, const std::string& name, double quantity,
+                                               int unitIndex, double unitCost, const Defaults& d) {
+  AddToShopForm f;
+  f.category = category < 0 || category > 4 ? 0 : category;
+  f.txtItem = name;
+  const StringList& units = inventoryUnits(f.category);
+  f.lblUnits = unitIndex < 0 || unitIndex >= static_cast<int>(units.size()) ? "Undefined" : units[static_cast<size_t>(unitIndex)];
+  if (quantity > 0) f.txtQty = formatNumber(quantity, "0.0#");
+  f.txtUnitCost = formatNumber(unitCost, "Currency");
+  const double qtySteps[] = {d.maltQtyIncr, d.hopsQtyIncr, d.otherQtyIncr, d.yeastQtyIncr, d.supplyQtyIncr};
+  const double costSteps[] = {d.maltCostIncr, d.hopsCostIncr, d.otherCostIncr, d.yeastCostIncr, d.supplyCostIncr};
+  f.qtyStep = qtySteps[f.category];
+  f.costStep = costSteps[f.category];
+  return f;
+}
+
+AddToShopForm AddToShopForm::editEntry(const ShoppingRow& row, const Defaults& d) {
+  const int category = categoryIndex(row.category());
+  const StringList& units = inventoryUnits(category);
+  const int unit = findInList(units, static_cast<int>(units.size()) - 1, row.cells[3], -1);
+  AddToShopForm f = addToShoppingList(category, row.item(), money(row.cells[2]), unit, money(row.cells[4]), d);
+  if (unit < 0 && !trim(row.cells[3]).empty()) f.lblUnits = row.cells[3];
+  return f;
+}
+
+void AddToShopForm::stepQty(int direction) {
+  double v = std::max(0.0, lenientValue(txtQty) + direction * qtyStep);
+  txtQty = formatNumber(roundHalfAway(v, 2), "0.0#");
+}
+
+void AddToShopForm::stepCost(int direction) {
+  double v = std::max(0.0, money(txtUnitCost) + direction * costStep);
+  txtUnitCost = formatNumber(roundHalfAway(v, 2), "Currency");
+}
+
+bool AddToShopForm::ok(ShoppingList& list) const {
+  std::optional<double> qty = strictValue(txtQty), cost = strictValue(txtUnitCost);
+  if (!qty || !cost) return false;
+  list.addItem(category, txtItem, *qty, chkAddToItem, lblUnits, *cost);
+  return true;
 }
 
 }  // namespace zy

@@ -16,6 +16,7 @@
 namespace zy {
 
 class IngredientTable;
+struct Defaults;
 
 inline constexpr const char* kShoppingListFile = "ZYShopList.csv";
 inline constexpr const char* kShoppingSection = "Shopping List";
@@ -84,6 +85,26 @@ class ShoppingList {
   // Keeping the list between runs: quietly, without status log or messages.
   bool saveTo(const std::string& path) const;
   bool loadFrom(const std::string& path);
+};
+
+// The "Add to Shopping List" dialog's fields for one item: the unit named by the caller's index
+// within the units of the category ("Undefined" for a negative one), the quantity handed in when
+// above 0 (else "1.0"), the cost as money, and the steps of the up-down buttons of the kind.
+struct AddToShopForm {
+  int category = 0;
+  std::string txtItem, txtQty = "1.0", txtUnitCost = "$0.00", lblUnits;
+  bool chkAddToItem = false;
+  double qtyStep = 1, costStep = 0.05;
+
+  static AddToShopForm addToShoppingList(int category, const std::string& name, double quantity, int unitIndex,
+                                         double unitCost, const Defaults& defaults);
+  // The row as it stands, for "Edit Shopping List Entry".
+  static AddToShopForm editEntry(const ShoppingRow& row, const Defaults& defaults);
+  // One step of an up-down button (direction +1 or -1), never below 0.
+  void stepQty(int direction);
+  void stepCost(int direction);
+  // OK: the two fields by strict reading; false (and nothing added) when one is no number.
+  bool ok(ShoppingList& list) const;
 };
 
 }  // namespace zy

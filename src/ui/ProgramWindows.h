@@ -16,6 +16,9 @@ class frmRecipe;
 class dlgScale;
 class frmFermentation;
 class frmComments;
+class frmInventory;
+class frmShoppingLst;
+class frmInvCheck;
 
 class ProgramWindows : public QObject {
   Q_OBJECT
@@ -31,6 +34,9 @@ class ProgramWindows : public QObject {
   dlgScale& scale();
   frmFermentation& fermentation();
   frmComments& comments();
+  frmInventory& inventory();
+  frmShoppingLst& shoppingList();
+  frmInvCheck& invCheck();
 
   // What the menus and buttons do.
   void showRecipeList();
@@ -39,6 +45,12 @@ class ProgramWindows : public QObject {
   void openScale();
   void showFermentation();
   void showComments();
+  // The inventory; `toPickIngredients` opens it in its "Add To Recipe" mode for the editor.
+  void showInventory(bool toPickIngredients);
+  void showShoppingList();
+  // The editor's whole recipe goes to the shopping list, which comes forward.
+  void addRecipeToShoppingList();
+  void showInvCheck();
   // Closes every window that was created (they close for good while appClosing is set).
   void closeAll();
 
@@ -57,6 +69,9 @@ class ProgramWindows : public QObject {
   QPointer<dlgScale> scale_;
   QPointer<frmFermentation> fermentation_;
   QPointer<frmComments> comments_;
+  std::unique_ptr<frmInventory> inventory_;
+  std::unique_ptr<frmShoppingLst> shoppingList_;
+  std::unique_ptr<frmInvCheck> invCheck_;
 };
 
 }  // namespace zy
