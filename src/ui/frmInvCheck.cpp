@@ -34,6 +34,7 @@ frmInvCheck::frmInvCheck(Workbench& wb, RecipeEditor& editor, QWidget* parent)
   lvCheck->setHeaderLabels({"Category", "Item", "Have", "Need", "Short", "Units", "Status"});
   const int widths[] = {70, 200, 60, 60, 60, 60, 100};
   for (int c = 0; c < 7; ++c) lvCheck->setColumnWidth(c, widths[c]);
+  for (int c = 2; c <= 4; ++c) lvCheck->headerItem()->setTextAlignment(c, Qt::AlignRight);
   lvCheck->setToolTip("The recipe's need is converted to the stock's unit where both are weights");
   v->addWidget(lvCheck);
   cmdAddShort = new QPushButton("&Add Shortages to Shopping List", this);

@@ -1,5 +1,7 @@
 #include "ui/frmInventory.h"
 
+#include <algorithm>
+
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -266,7 +268,7 @@ frmInventory::frmInventory(Workbench& wb, QWidget* parent) : QMainWindow(parent,
   connect(contents, &QAction::triggered, this, helpAt);
   connect(tbHelp, &QAction::triggered, this, helpAt);
 
-  restoreStylePlacement(this, wb_.settings, kSection, QSize(9555 / kTwipsPerPixel, 6625 / kTwipsPerPixel));
+  restoreStylePlacement(this, wb_.settings, kSection, QSize(std::max(9555 / kTwipsPerPixel, 840), 6625 / kTwipsPerPixel));
   setAddToRecipe(nullptr);
   showCategory(INV_MALT);
 }
@@ -288,7 +290,9 @@ void frmInventory::buildColumns() {
   lvInventory->setHeaderLabels(heads);
   std::vector<int> widths = model.columnWidths();
   for (size_t c = 0; c < cols.size(); ++c) {
-    int w = c < widths.size() && widths[c] > 10 ? widths[c] : (c == 0 ? 200 : cols[c].numeric ? 72 : 80);
+    int w = c < widths.size() && widths[c] > 10 ? widths[c] : (c == 0 ? 170 : cols[c].numeric ? 64 : 58);
+    if (widths.size() <= c && (cols[c].key == std::string_view(kColVintage))) w = 90;
+    if (widths.size() <= c && (cols[c].key == std::string_view(kColReorderThresh) || cols[c].key == std::string_view(kColReorderQty))) w = 80;
     lvInventory->setColumnWidth(static_cast<int>(c), w);
     if (cols[c].numeric) lvInventory->headerItem()->setTextAlignment(static_cast<int>(c), Qt::AlignRight);
   }

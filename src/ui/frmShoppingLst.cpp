@@ -82,7 +82,7 @@ frmShoppingLst::frmShoppingLst(Workbench& wb, QWidget* parent) : QMainWindow(par
   lvShopList->setHeaderLabels(heads);
   const int widths[] = {80, 220, 80, 70, 80, 90};
   for (int c = 0; c < 6; ++c) lvShopList->setColumnWidth(c, widths[c]);
-  for (int c = 2; c < 6; ++c) lvShopList->headerItem()->setTextAlignment(c == 3 ? 0 : c, Qt::AlignRight);
+  for (int c : {2, 4, 5}) lvShopList->headerItem()->setTextAlignment(c, Qt::AlignRight);
   lvShopList->setToolTip("Double-click an item to change its quantity or cost");
   v->addWidget(lvShopList);
   lblTotalCost = new QLabel(central);
