@@ -16,10 +16,15 @@
 #include "inventory/InventoryStartup.h"
 #include "recipes/RecipeEditor.h"
 #include "support/TestSupport.h"
+#include "ui/RecipeBench.h"
+#include "ui/frmMain.h"
+#include "ui/frmRecipe.h"
+#include "ui/frmRecipeList.h"
 #include "ui/QtPrompter.h"
 #include "ui/RecipeIcons.h"
 #include "ui/UiSupport.h"
 #include "ui/dlgAddToShopLst.h"
+#include "ui/frmInvCheck.h"
 #include "ui/frmFind.h"
 #include "ui/frmInventory.h"
 #include "ui/frmShoppingLst.h"
@@ -69,7 +74,7 @@ TEST(InventoryWindow, AddSortHideAndDelete) {
   EXPECT_EQ(again.list(INV_HOPS).rows[3].cells,
             (std::vector<std::string>{"Northern Brewer", "   4.13", "Oz", "$1.25", "5.5", "", "1.", "4.", ""}));
 
-  // Qty twice: by value, largest first; then only what is on hand.
+  // A click on Qty sorts by value; a second sort turns it round, and then only what is on hand shows.
   const int qty = 1;
   QTest::mouseClick(w.lvInventory->header()->viewport(), Qt::LeftButton, {},
                     QPoint(w.lvInventory->header()->sectionViewportPosition(qty) + 5, 5));
@@ -152,6 +157,29 @@ TEST(ShoppingWindow, DialogStepsAddsAndTheListDeletes) {
   ASSERT_TRUE(kept.loadFrom(b.wb->folder.dataFile(kShoppingListFile)));
   ASSERT_EQ(kept.rows.size(), 1u);
   EXPECT_EQ(kept.rows[0].cells[5], "$11.00");
+}
+
+TEST(InventoryWindow, OpensFromTheMainWindowAndTheRecipeEditor) {
+  RecipeBench b;
+  b.storeDozen(1, "Copper Amber");
+  ProgramWindows& w = *b.windows;
+  EXPECT_TRUE(b.main->openChild(frmMain::Child::Inventory));
+  EXPECT_TRUE(w.inventory().isVisible());
+  EXPECT_FALSE(w.inventory().cmdAddToRecipe->isVisible());
+
+  w.showRecipeList();
+  b.openFromTree(w.recipeList().tvRecipes, w.recipeList().itemOf("R1"));
+  frmRecipe& r = w.recipe();
+  r.mnuShopListAddRecipe->trigger();
+  ASSERT_TRUE(w.shoppingList().isVisible());
+  EXPECT_EQ(w.shoppingList().lvShopList->topLevelItemCount(), 12);
+  EXPECT_EQ(s8(w.shoppingList().lblTotalCost->text()), "Est. Total Cost: $27.43");
+
+  QTest::mouseClick(r.cmdAddIngredients, Qt::LeftButton);
+  EXPECT_TRUE(w.inventory().cmdAddToRecipe->isVisible());
+  r.mnuShopListCheckInventories->trigger();
+  EXPECT_EQ(w.invCheck().lvCheck->topLevelItemCount(), 12);
+  EXPECT_EQ(s8(w.invCheck().lvCheck->topLevelItem(0)->text(6)), "Not in Stock");
 }
 
 }  // namespace
