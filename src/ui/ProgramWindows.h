@@ -21,6 +21,9 @@ class frmHopsUtilization;
 class frmUnitMashData;
 class frmStyleMatch;
 class frmBeerStyles;
+class frmInventory;
+class frmShoppingLst;
+class frmInvCheck;
 
 class ProgramWindows : public QObject {
   Q_OBJECT
@@ -40,6 +43,9 @@ class ProgramWindows : public QObject {
   frmUnitMashData& unitMashData();
   frmStyleMatch& styleMatch();
   frmBeerStyles& beerStyles();
+  frmInventory& inventory();
+  frmShoppingLst& shoppingList();
+  frmInvCheck& invCheck();
 
   // What the menus and buttons do.
   void showRecipeList();
@@ -55,6 +61,12 @@ class ProgramWindows : public QObject {
   void openStyleFilter();
   // The style browser, on the named style when one is given.
   void showBeerStyles(const std::string& styleName = "");
+  // The inventory; `toPickIngredients` opens it in its "Add To Recipe" mode for the editor.
+  void showInventory(bool toPickIngredients);
+  void showShoppingList();
+  // The editor's whole recipe goes to the shopping list, which comes forward.
+  void addRecipeToShoppingList();
+  void showInvCheck();
   // Closes every window that was created (they close for good while appClosing is set).
   void closeAll();
 
@@ -77,6 +89,9 @@ class ProgramWindows : public QObject {
   QPointer<frmComments> comments_;
   QPointer<frmUnitMashData> unitMashData_;
   QPointer<frmStyleMatch> styleMatch_;
+  std::unique_ptr<frmInventory> inventory_;
+  std::unique_ptr<frmShoppingLst> shoppingList_;
+  std::unique_ptr<frmInvCheck> invCheck_;
 };
 
 }  // namespace zy
