@@ -161,7 +161,8 @@ class RecipeList {
   // Double click on a node: nothing on a group. Asks to save a changed recipe ("Cancel" ends
   // the action), loads the leaf's recipe and lets the editor populate. False when nothing opened.
   bool openRecipe(Workbench& wb, const std::string& key, const RecipeOpenHooks& hooks = {});
-  // Delete of the selected leaf, after the question. True when deleted.
+  // Delete of the selected leaf, after the question (and a second one naming the batch logs that
+  // go with the recipe, when it has any). True when deleted.
   bool mnuFileDelete_Click(Workbench& wb);
 
   // Import of a recipe exchange file (the file dialog's answer given as `path`): reader, slot,
