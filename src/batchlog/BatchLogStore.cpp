@@ -24,10 +24,12 @@ std::string logPath(const Workbench& wb) { return wb.folder.dataFile(kBatchLogFi
 
 // One pass over the file from record 1. `visit` gets each sound record's number and bytes and
 // returns false to stop the pass. Bad records are counted and reported once at the end. False
-// when the file could not be opened or read (the error was reported under `fn`).
+// when the file could not be opened or read (the error was reported under `fn`). Opening creates
+// a missing file empty, except for a count (`readOnly`), which finds no logs there.
 template <typename Visit>
-bool passOverLogs(Workbench& wb, const char* fn, Visit visit) {
+bool passOverLogs(Workbench& wb, const char* fn, Visit visit, bool readOnly = false) {
   const std::string path = logPath(wb);
+  if (readOnly && !fileExists(path)) return true;
   long bad = 0;
   try {
     RecordFile f(path, kBatchLogRecordLength);
@@ -72,7 +74,7 @@ long countBatchLogs(Workbench& wb, int recipeNo) {
   passOverLogs(wb, kCountFn, [&](long, const std::string& buf) {
     if (getI16(buf, 2) == recipeNo) ++count;
     return true;
-  });
+  }, true);
   return count;
 }
 
@@ -82,7 +84,7 @@ std::map<int, long> countAllBatchLogs(Workbench& wb) {
     const int owner = getI16(buf, 2);
     if (owner != 0) ++counts[owner];
     return true;
-  });
+  }, true);
   return counts;
 }
 
@@ -92,7 +94,7 @@ long freeBatchLogsOf(Workbench& wb, int recipeNo) {
   if (!passOverLogs(wb, kFreeFn, [&](long n, const std::string& buf) {
         if (getI16(buf, 2) == recipeNo) owned.push_back(n);
         return true;
-      }))
+      }, true))
     return -1;
   if (owned.empty()) return 0;
   try {

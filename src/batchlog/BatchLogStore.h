@@ -26,7 +26,8 @@ class Workbench;
 
 constexpr size_t kBatchLogRecordLength = BatchLogRecord::kLength;
 
-// The logs of one recipe: one pass over the file (a missing file is created empty).
+// The logs of one recipe: one pass over the file. Counting only reads: a missing file has no logs
+// and stays missing (the recipe list counts at every rebuild).
 long countBatchLogs(Workbench& wb, int recipeNo);
 // The logs of every recipe in one pass: recipe number -> count (free slots left out).
 std::map<int, long> countAllBatchLogs(Workbench& wb);
