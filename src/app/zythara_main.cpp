@@ -3,9 +3,11 @@
 #include <QFile>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 
 #include "core/paths.h"
 #include "core/settings.h"
+#include "ui/ProgramWindows.h"
 #include "ui/QtPrompter.h"
 #include "ui/SubMain.h"
 #include "ui/TopicIcons.h"
@@ -38,8 +40,12 @@ int main(int argc, char** argv) {
   // A terminating error ends the process at once, saving nothing.
   wb.errors.setTerminationHook([](int) { std::_Exit(3); });
 
+  // The other windows, created on first use; their openers are registered before the main
+  // window's load, so that a recipe file named on the command line opens the recipe list.
+  std::unique_ptr<zy::ProgramWindows> windows;
   zy::SubMain subMain(wb);
-  zy::frmMain* main = subMain.run(cl.recipeFile);
+  zy::frmMain* main =
+      subMain.run(cl.recipeFile, [&](zy::frmMain& m) { windows = std::make_unique<zy::ProgramWindows>(wb, m); });
   prompter.setParent(main);
   return app.exec();
 }

@@ -155,7 +155,11 @@ void HopsUtilizationEditor::setFactorText(int index, const std::string& text) {
 
 void HopsUtilizationEditor::focusFactor(int index) {
   if (index < 0 || index > 2) return;
-  rememberedFactor = singleValue(txtFactor[static_cast<size_t>(index)]);
+  // The window keeps one "previous value" for whichever editor the user is in: the cell editor
+  // stores the cell's value there, a factor box its own. So when a changed factor re-applies the
+  // last row below, that row is compared with the factor's old value, and a hand-set factor
+  // makes the curve "Custom Utilization Curve": a named curve comes with its own factors.
+  rememberedValue = singleValue(txtFactor[static_cast<size_t>(index)]);
 }
 
 void HopsUtilizationEditor::validateFactor(int index) {
@@ -177,8 +181,10 @@ void HopsUtilizationEditor::validateFactor(int index) {
     }
     graphIncrement = inc;
   }
-  if (f != static_cast<float>(rememberedFactor)) {
-    keepMonotonic(kUtilRows);
+  if (f != static_cast<float>(rememberedValue)) {
+    applyUtilEdit(kUtilRows);
+    // applyUtilEdit stops early when the last row happens to equal the factor's old value; the
+    // graph must show the new factor all the same.
     redrawGraph();
   }
 }

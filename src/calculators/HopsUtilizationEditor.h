@@ -54,11 +54,12 @@ class HopsUtilizationEditor {
   // ---- the factor boxes (index 0, 1, 2)
   // Typing into a box: the text changes and the formula labels are rewritten.
   void setFactorText(int index, const std::string& text);
-  // The box gains the focus: its value is remembered.
+  // The box gains the focus: its value is remembered, in the same place as a cell's.
   void focusFactor(int index);
   // Leaving a box: the value is mended by the validation rules (1.0 at least for box 0, the
   // Tinseth base 0.000125 for box 1 in mode 2, else 0.2 for zero or less; the graph increment
-  // 0 to 0.1, else 0.02 and box 2 "0.020"); a changed value redraws the graph.
+  // 0 to 0.1, else 0.02 and box 2 "0.020"); a changed value re-applies row 18 through
+  // applyUtilEdit (which marks the curve custom) and redraws the graph.
   void validateFactor(int index);
 
   // ---- the graph
@@ -91,8 +92,8 @@ class HopsUtilizationEditor {
   std::vector<UtilGraphCurve> graph;
   std::string graphError;         // the message shown when the graph could not be drawn
 
-  double rememberedValue = -1.0;  // previous value of the cell being edited (-1.0: a preset)
-  double rememberedFactor = 0.0;  // previous value of the factor box being edited
+  // The previous value of the cell or factor box being edited, one for both (-1.0: a preset).
+  double rememberedValue = -1.0;
   bool applyingPreset = false;    // blocks the formula labels while a preset fills the boxes
 
  private:

@@ -153,6 +153,18 @@ class RecipeEditor {
   // After the scaling dialog has rewritten the table: all three calculations, recipe changed.
   void rescaled() { afterEdit(EditEvent::Structure); }
 
+  // ---- The comment window (frmComments) ---------------------------------------------------------
+  enum class CommentField { DateCreated, IdCode, LabelName, Comment };
+  // A typed change of one of its boxes; marks the recipe changed.
+  void setCommentField(CommentField field, const std::string& text);
+  // Replaces the comment with a text file's contents (line ends made CR LF) and remembers the
+  // file's folder in "File Path" of section "Comments". False, with a message and the comment
+  // kept, when the file cannot be read.
+  bool importComment(const std::string& path);
+  // Writes the comment to a text file as it stands; remembers the folder as the import does.
+  // "Unable to Generate Output File" when the file cannot be written.
+  bool exportComment(const std::string& path);
+
   // ---- State ----------------------------------------------------------------------------------
   Workbench& wb;
   RecipeSheet sheet;

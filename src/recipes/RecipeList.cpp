@@ -511,20 +511,57 @@ long RecipeList::mnuFileNew_Click(Workbench& wb) {
   return slot;
 }
 
+namespace {
+// The question before the editor's recipe is replaced; false when the user cancelled.
+bool mayReplaceRecipe(Workbench& wb, const RecipeOpenHooks& hooks) {
+  if (!hooks.isChanged || !hooks.isChanged()) return true;
+  Answer a = wb.prompter.message("Recipe has Changed, Save Changes?", "Save Recipe", Icon::Question,
+                                 Buttons::YesNoCancel, Answer::Yes);
+  if (a == Answer::Cancel) return false;
+  if (a == Answer::Yes && hooks.save) hooks.save();
+  return true;
+}
+}  // namespace
+
+long RecipeList::newRecipe(Workbench& wb, const RecipeOpenHooks& hooks) {
+  if (!mayReplaceRecipe(wb, hooks)) return 0;
+  if (hooks.prepareForLoad) hooks.prepareForLoad();
+  const long slot = mnuFileNew_Click(wb);
+  if (slot < 1) return 0;
+  if (hooks.populate) hooks.populate();
+  return slot;
+}
+
 bool RecipeList::openRecipe(Workbench& wb, const std::string& key, const RecipeOpenHooks& hooks) {
   const RecipeNode* n = tree.find(key);
   if (!n || !n->isLeaf()) return false;
-  if (hooks.isChanged && hooks.isChanged()) {
-    Answer a = wb.prompter.message("Recipe has Changed, Save Changes?", "Save Recipe", Icon::Question,
-                                   Buttons::YesNoCancel, Answer::Yes);
-    if (a == Answer::Cancel) return false;
-    if (a == Answer::Yes && hooks.save) hooks.save();
-  }
+  if (!mayReplaceRecipe(wb, hooks)) return false;
   if (hooks.prepareForLoad) hooks.prepareForLoad();
   currentRecipeKey = key;
   if (!loadRecipe(wb, recipeNumber(key))) return false;
   if (hooks.populate) hooks.populate();
   return true;
+}
+
+bool RecipeList::findRecipe(Workbench& wb, const std::string& part) {
+  const std::string wanted = lower(trim(part));
+  std::vector<const RecipeNode*> leaves;
+  size_t start = 0;
+  for (const RecipeNode* n : tree.displayOrder()) {
+    if (n->key == selectedKey) start = leaves.size() + (n->isLeaf() ? 1 : 0);
+    if (n->isLeaf()) leaves.push_back(n);
+  }
+  if (!wanted.empty()) {
+    for (size_t k = 0; k < leaves.size(); ++k) {
+      const RecipeNode* n = leaves[(start + k) % leaves.size()];
+      if (lower(n->tag).find(wanted) != std::string::npos) {
+        select(n->key);
+        return true;
+      }
+    }
+  }
+  wb.prompter.message("Recipe Not Found: " + trim(part), "Find Recipe", Icon::Information, Buttons::OK);
+  return false;
 }
 
 bool RecipeList::mnuFileDelete_Click(Workbench& wb) {

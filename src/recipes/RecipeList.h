@@ -158,9 +158,17 @@ class RecipeList {
   // New recipe: newRecipeRecord, a slot from findNextRecipeSlot, recipeNo set. Returns the slot
   // (0 when the slot search failed). Nothing reaches the tree or the file.
   long mnuFileNew_Click(Workbench& wb);
+  // New from the window: a changed recipe in the editor is offered for saving first ("Cancel"
+  // ends the action, giving 0), then mnuFileNew_Click and the editor set up for the new recipe.
+  long newRecipe(Workbench& wb, const RecipeOpenHooks& hooks);
   // Double click on a node: nothing on a group. Asks to save a changed recipe ("Cancel" ends
   // the action), loads the leaf's recipe and lets the editor populate. False when nothing opened.
   bool openRecipe(Workbench& wb, const std::string& key, const RecipeOpenHooks& hooks = {});
+  // Find: the next recipe after the selected node (in display order, round to the top) whose
+  // name holds `part`, letters compared without regard to case. The match becomes the selected
+  // node and true is returned; otherwise "Recipe Not Found: " + part is shown (title "Find
+  // Recipe") and the selection stays.
+  bool findRecipe(Workbench& wb, const std::string& part);
   // Delete of the selected leaf, after the question (and a second one naming the batch logs that
   // go with the recipe, when it has any). True when deleted.
   bool mnuFileDelete_Click(Workbench& wb);

@@ -162,8 +162,10 @@ BookSource parseBookSource(const std::string& sourceFile, const std::string& tex
 }
 
 BuildReport buildReference(std::vector<TopicSource> topics, std::vector<BookSource> books, const std::string& outDir,
-                           const std::string& imageDir) {
+                           const std::string& imageDir, BuildChecks checks) {
   BuildReport report;
+  const bool strict = checks == BuildChecks::Strict;
+  std::vector<std::string>& brokenLinks = strict ? report.errors : report.warnings;
 
   // Topics: each field within its fixed width.
   std::map<std::string, const TopicSource*> byIndex;
@@ -191,6 +193,9 @@ BuildReport buildReference(std::vector<TopicSource> topics, std::vector<BookSour
       if (a.empty()) report.errors.push_back(f + ": an also-see line names no topic");
       checkLength(f, "also-see title \"" + utf8(a) + "\"", a, kMaxTitleLength, report);
     }
+    if (strict && t.title != t.indexTitle)
+      report.errors.push_back(f + ": the title \"" + utf8(t.title) + "\" differs from its index title \"" +
+                              utf8(t.indexTitle) + "\"");
     auto [it, fresh] = byIndex.emplace(lower(t.indexTitle), &t);
     if (!fresh)
       report.errors.push_back(f + ": the index title \"" + utf8(t.indexTitle) + "\" is taken already by " +
@@ -201,7 +206,15 @@ BuildReport buildReference(std::vector<TopicSource> topics, std::vector<BookSour
   for (const TopicSource& t : topics)
     for (const std::string& a : t.alsoSee)
       if (!a.empty() && !byIndex.count(lower(a)))
-        report.warnings.push_back(t.sourceFile + ": the also-see title \"" + utf8(a) + "\" matches no topic");
+        brokenLinks.push_back(t.sourceFile + ": the also-see title \"" + utf8(a) + "\" matches no topic");
+
+  // A picture that is not there would show as a broken image.
+  std::error_code ec;
+  if (strict && !imageDir.empty())
+    for (const TopicSource& t : topics)
+      for (const TopicImage& img : t.images)
+        if (!img.file.empty() && !fs::is_regular_file(fs::path(imageDir) / img.file, ec))
+          report.errors.push_back(t.sourceFile + ": the picture \"" + utf8(img.file) + "\" is not in " + imageDir);
 
   // Books.
   if (books.size() > kMaxBooks)
@@ -268,7 +281,6 @@ BuildReport buildReference(std::vector<TopicSource> topics, std::vector<BookSour
     mb.push_back(std::move(r));
   }
 
-  std::error_code ec;
   fs::create_directories(outDir, ec);
   const std::string zyth = (fs::path(outDir) / kZythEnc).string();
   const std::string tocPath = (fs::path(outDir) / kZythTocEnc).string();
@@ -330,7 +342,7 @@ BuildReport buildReferenceFromFolder(const std::string& sourceDir, const std::st
   if (topics.empty()) report.errors.push_back(sourceDir + "/topics: no topic sources (*.txt)");
   if (!report.ok()) return report;
   BuildReport built = buildReference(std::move(topics), std::move(books), outDir,
-                                     (fs::path(sourceDir) / "images").string());
+                                     (fs::path(sourceDir) / "images").string(), BuildChecks::Strict);
   built.warnings.insert(built.warnings.begin(), report.warnings.begin(), report.warnings.end());
   return built;
 }

@@ -4,7 +4,8 @@
 //
 // A topic source (data/reference/topics/*.txt, UTF-8):
 //   Title: Mashing
-//   Index: Mashing                      (optional; the title when absent)
+//   Index: Mashing                      (optional; the title when absent; shipped topics keep
+//                                       the two the same, so the list and the page agree)
 //   Order: 10                           (optional; lower comes first, default 1000)
 //   Image: mash-tun.png | The caption   (up to two)
 //   Also See: Sparging                  (any number of lines, up to 99)
@@ -62,14 +63,22 @@ struct BuildReport {
 TopicSource parseTopicSource(const std::string& sourceFile, const std::string& text, BuildReport& report);
 BookSource parseBookSource(const std::string& sourceFile, const std::string& text, BuildReport& report);
 
+// How strictly the sources are held to a clean encyclopedia. Lenient builds what the file format
+// can hold (the browser copes with an also-see title that matches nothing, a topic listed under a
+// name of its own, a missing picture) and warns; Strict, for the shipped sources, refuses those too.
+enum class BuildChecks { Lenient, Strict };
+
 // Checks everything and, when no error was found, writes the three files into `outDir`
 // (created when missing). `imageDir`, when given, is where pictures are taken from: each picture
-// named by a topic is copied into `outDir`; a missing one is a warning.
+// named by a topic is copied into `outDir`; a missing one is a warning (an error when Strict).
+// Strict also refuses an also-see title that matches no index title and a title that differs
+// from its index title, so that the page heading and the topic list agree.
 BuildReport buildReference(std::vector<TopicSource> topics, std::vector<BookSource> books,
-                           const std::string& outDir, const std::string& imageDir = {});
+                           const std::string& outDir, const std::string& imageDir = {},
+                           BuildChecks checks = BuildChecks::Lenient);
 
 // Reads sourceDir/topics/*.txt and sourceDir/books/*.txt, pictures from sourceDir/images, and
-// builds as above.
+// builds as above, strictly: this is what the program ships.
 BuildReport buildReferenceFromFolder(const std::string& sourceDir, const std::string& outDir);
 
 }  // namespace zy

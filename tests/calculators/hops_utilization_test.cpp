@@ -220,7 +220,6 @@ TEST(HopsEditor, FactorsAreMendedInAChain) {
   EXPECT_EQ(e.lblIncrement[0], "(graph by 0.050)");
   EXPECT_EQ(e.lblBottom[0], "0.200");
   EXPECT_EQ(e.lblBlue, "1.110");
-  EXPECT_EQ(e.lblTitle, "Rager");  // factors do not make the curve custom
 
   e.cmdTinseth();
   e.setFactorText(1, "0");
@@ -230,6 +229,40 @@ TEST(HopsEditor, FactorsAreMendedInAChain) {
   e.setFactorText(1, "0.0002");
   EXPECT_EQ(e.lblBottom[1], "0.000200");
   EXPECT_EQ(e.lblBottom[0], "0.200");  // the other mode's copy is left alone
+}
+
+// A changed factor re-applies the last row through the cell rule, against the factor's old value
+// (the cell editor and the factor boxes share one remembered value): a named curve with a
+// hand-set factor is custom; leaving a box unchanged, or mended back to its old value, is not.
+TEST(HopsEditor, ChangedFactorMarksTheCurveCustom) {
+  struct Case {
+    void (HopsUtilizationEditor::*preset)();
+    int box;
+    const char* typed;
+    const char* title;
+  };
+  for (const Case& c : {Case{&HopsUtilizationEditor::cmdRager, 0, "1.06", kCustomCurveTitle},
+                        Case{&HopsUtilizationEditor::cmdTinseth, 2, "0.05", kCustomCurveTitle},
+                        Case{&HopsUtilizationEditor::cmdGaretz, 1, "0.2", "Garetz"},
+                        Case{&HopsUtilizationEditor::cmdTinseth, 1, "-1", "Tinseth"}}) {
+    HopsUtilizationEditor e = openedOnDefaults();
+    (e.*c.preset)();
+    e.focusFactor(c.box);
+    e.setFactorText(c.box, c.typed);
+    e.validateFactor(c.box);
+    EXPECT_EQ(e.lblTitle, c.title) << c.box << " " << c.typed;
+    EXPECT_EQ(e.graph.size(), 3u);
+  }
+  // The re-applied row is clamped and keeps the curve from falling.
+  HopsUtilizationEditor e = openedOnDefaults();
+  e.cells[18] = "55";
+  e.cells[17] = "41";
+  e.focusFactor(0);
+  e.setFactorText(0, "1.07");
+  e.validateFactor(0);
+  EXPECT_EQ(e.cells[18], "40.0");
+  EXPECT_EQ(e.cells[17], "40.0");
+  EXPECT_EQ(e.graph[0].heights[17], 480);
 }
 
 TEST(HopsEditor, GraphPointsOfEachCurve) {

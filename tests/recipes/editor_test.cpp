@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <filesystem>
 
 #include "core/measures.h"
 #include "core/paths.h"
@@ -689,3 +690,41 @@ TEST(RecipeEditor, ClosingAsksWhenChanged) {
   ASSERT_TRUE(loadRecipe(t.wb, 1));
   EXPECT_EQ(trim(t.wb.recipe.rec.recipeName), "Amber Ale");
 }
+
+namespace zy {
+namespace {
+TEST(RecipeEditor, CommentTextTravelsThroughTextFilesAndTheFieldsMarkChanged) {
+  EditorBench t;
+  t.openAmber();
+  using F = RecipeEditor::CommentField;
+  const std::vector<std::pair<F, std::string>> typed = {{F::IdCode, "AMB-0001-XYZ"}, {F::LabelName, "Amber"}};
+  for (const auto& [field, text] : typed) {
+    t.e.recReset();
+    t.e.setCommentField(field, text);
+    EXPECT_TRUE(t.e.recipeChanged());
+  }
+  EXPECT_EQ(t.e.comments.idCode, "AMB-0001-X");  // ten characters, as the record holds them
+
+  const std::string in = t.b.dir.file("notes.txt");
+  test::writeFile(in, std::string("Mash at 152F.\nSparge slowly.\r\nBoil\r90 min\0.", 43));
+  t.e.recReset();
+  ASSERT_TRUE(t.e.importComment(in));
+  EXPECT_EQ(t.e.comments.comment, "Mash at 152F.\r\nSparge slowly.\r\nBoil\r\n90 min.");
+  EXPECT_TRUE(t.e.recipeChanged());
+  EXPECT_EQ(t.b.settings.read("Comments", "File Path", ""), t.b.dir.path());
+
+  const std::string out = t.b.dir.path() + "/out/amber.txt";
+  std::filesystem::create_directory(t.b.dir.path() + "/out");
+  ASSERT_TRUE(t.e.exportComment(out));
+  EXPECT_EQ(readFile(out), t.e.comments.comment);
+  EXPECT_EQ(t.b.settings.read("Comments", "File Path", ""), t.b.dir.path() + "/out");
+
+  // A file that is not there, a folder that is not there: a message each, the comment kept.
+  EXPECT_FALSE(t.e.importComment(t.b.dir.file("missing.txt")));
+  EXPECT_FALSE(t.e.exportComment(t.b.dir.file("none/x.txt")));
+  EXPECT_EQ(t.e.comments.comment, readFile(out));
+  EXPECT_EQ(t.msgs(), (std::vector<std::string>{"Import Comments: Unable to Read " + t.b.dir.file("missing.txt"),
+                                                "Error: Unable to Generate Output File"}));
+}
+}  // namespace
+}  // namespace zy

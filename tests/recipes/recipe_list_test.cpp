@@ -372,6 +372,26 @@ TEST_F(ListTest, DeleteAsksAndKeepsAnEmptiedGroupUntilTheRebuild) {
   EXPECT_EQ(list.tree.find("Red Ale"), nullptr);
 }
 
+TEST_F(ListTest, FindSelectsTheNextNameHoldingThePartRoundToTheTop) {
+  store(1, {"Amber Ale", "Red Ale"});
+  store(2, {"Dark Amber", "Dry Stout"});
+  store(3, {"Stout", "Dry Stout"});
+  ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_STYLE));
+  // Display order: Dry Stout (Dark Amber, Stout), Red Ale (Amber Ale).
+  const std::vector<std::pair<std::string, std::string>> steps = {
+      {"AMBER", "R2"}, {"amber", "R1"}, {" amber ", "R2"}, {"stout", "R3"}, {"out", "R3"}};
+  for (const auto& [part, key] : steps) {
+    EXPECT_TRUE(list.findRecipe(wb, part)) << part;
+    EXPECT_EQ(list.selectedKey, key) << part;
+  }
+  EXPECT_TRUE(list.deleteEnabled);
+  // Group names and the date prefix are no names; a miss keeps the selection.
+  EXPECT_FALSE(list.findRecipe(wb, "Red Ale"));
+  EXPECT_FALSE(list.findRecipe(wb, ""));
+  EXPECT_EQ(list.selectedKey, "R3");
+  EXPECT_EQ(msgs(), (std::vector<std::string>{"Find Recipe: Recipe Not Found: Red Ale", "Find Recipe: Recipe Not Found: "}));
+}
+
 TEST_F(ListTest, OpenAsksAboutAChangedRecipeAndLoadsTheLeaf) {
   store(1, {"Amber"});
   store(2, {"Stout"});
@@ -408,6 +428,18 @@ TEST_F(ListTest, NewTakesASlotButReachesNeitherTreeNorFile) {
   EXPECT_EQ(wb.recipe.rec.dateCreated, "Nov-22-2026");
   EXPECT_EQ(list.tree.size(), 1u);
   EXPECT_EQ(readFile(recipeFile(b)).size(), RecipeRecord::kLength);
+
+  // From the window, a changed recipe in the editor is offered for saving first.
+  int saves = 0, populated = 0;
+  RecipeOpenHooks hooks{[] { return true; }, [&] { ++saves; }, {}, [&] { ++populated; }};
+  b.prompter.answers = {Answer::Cancel, Answer::No};
+  wb.recipe.rec.recipeName = "Kept";
+  EXPECT_EQ(list.newRecipe(wb, hooks), 0);
+  EXPECT_EQ(wb.recipe.rec.recipeName, "Kept");
+  EXPECT_EQ(list.newRecipe(wb, hooks), 2);
+  EXPECT_EQ(wb.recipe.rec.recipeName, "A Beer Recipe");
+  EXPECT_EQ(saves * 10 + populated, 1);
+  EXPECT_EQ(msgs(), std::vector<std::string>(2, "Save Recipe: Recipe has Changed, Save Changes?"));
 }
 
 TEST_F(ListTest, SettingsOfTheWindow) {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <functional>
 
 #include "RefFixture.h"
 #include "core/text.h"
@@ -132,6 +133,45 @@ TEST(ReferenceFiles, AlsoSeeTitlesThatMatchNoTopicAreWarnedAbout) {
       "topics/Yeast.txt: the picture \"yeast.png\" is not in " + dir.file("images"),
   };
   EXPECT_EQ(r.warnings, expected);
+}
+
+// The shipped sources are held to a clean encyclopedia: each broken link or name fails the build.
+TEST(ReferenceFiles, StrictBuildRefusesEachBrokenSource) {
+  TempFolder dir;
+  const std::string images = dir.file("images");
+  makeFolders(images);
+  for (const char* f : {"cone.png", "field.png", "yeast.png"}) writeFile(images + "/" + f, "png");
+  auto clean = [] {
+    std::vector<TopicSource> t = sampleTopics();
+    t[0].title = "Boiling";
+    t[0].alsoSee = {"Hops", "cooling"};
+    t[1].alsoSee.clear();
+    return t;
+  };
+  struct Case {
+    std::function<void(std::vector<TopicSource>&, std::vector<BookSource>&)> breakIt;
+    std::string error;
+  } cases[] = {
+      {[](auto&, auto&) {}, ""},
+      {[](auto& t, auto&) { t[1].alsoSee = {"Chilling"}; },
+       "topics/Cooling.txt: the also-see title \"Chilling\" matches no topic"},
+      {[](auto& t, auto&) { t[3].images[0].file = "cells.png"; },
+       "topics/Yeast.txt: the picture \"cells.png\" is not in " + images},
+      {[](auto&, auto& b) { b[0].chapters.push_back({"Water", "Water"}); },
+       "books/first.txt: the chapter \"Water\" points at \"Water\", which is no topic"},
+      {[](auto& t, auto&) { t[3].images[0].caption = std::string(100, 'c'); },
+       "topics/Yeast.txt: the caption of \"yeast.png\" is 100 characters long; at most 99 fit in the reference files"},
+      {[](auto& t, auto&) { t[2].title = "Hops and Hopping"; },
+       "topics/Hops.txt: the title \"Hops and Hopping\" differs from its index title \"Hops\""},
+  };
+  for (const Case& c : cases) {
+    std::vector<TopicSource> topics = clean();
+    std::vector<BookSource> books = sampleBooks();
+    c.breakIt(topics, books);
+    BuildReport r = buildReference(topics, books, dir.file("Reference"), images, BuildChecks::Strict);
+    EXPECT_EQ(r.errors, c.error.empty() ? std::vector<std::string>{} : std::vector<std::string>{c.error});
+    EXPECT_TRUE(r.warnings.empty());
+  }
 }
 
 TEST(ReferenceFiles, SourceTextsAreParsedAndConvertedTo8Bit) {

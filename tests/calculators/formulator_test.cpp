@@ -1,0 +1,116 @@
+#include <gtest/gtest.h>
+
+#include "calculators/CalcBench.h"
+#include "calculators/MaltFormulator.h"
+#include "core/numfmt.h"
+
+using namespace zy;
+using namespace zy::test;
+
+namespace {
+struct FormBench {
+  CalcBench cb;
+  MaltFormulator f{cb.editor};
+  explicit FormBench(const std::vector<RecipeItemRecord>& malts) {
+    cb.open(malts);
+    f.load();
+    f.txtTargetOG = "1.050";
+  }
+};
+}  // namespace
+
+TEST(MaltFormulator, OneMaltEndsInTheCloseAsItCanMessage) {
+  FormBench b({CalcBench::pale(5)});
+  EXPECT_EQ(b.f.lblQuantity, "Malt Formulation for 5.0 US Gallons");
+  EXPECT_EQ(b.f.txtMashEff, "80");  // the recipe's efficiency
+  b.f.txtTargetColor = "20.0";
+  ASSERT_TRUE(b.f.mnuComputeOGColor());
+  // 0.050 * 5 gallons / (0.036 * 0.8) = 8.68 lbs, on the grid of 1/20: 8.7.
+  const FormulatorMalt& m = b.f.lvMalts[0];
+  EXPECT_EQ(m.quantity, "8.7");
+  EXPECT_EQ(m.computedPct, "100");
+  EXPECT_EQ(b.f.txtCompOG, "1.050");
+  EXPECT_EQ(b.f.txtCompColor, "4.2");
+  EXPECT_EQ(shownLines(b.cb.b.prompter),
+            (std::vector<std::string>{"Advanced Malt Formulator: That's as close was the Formulator can get with these malts"}));
+  b.f.coarse = true;  // a grid of 1/10
+  b.f.txtTargetOG = "1.049";
+  ASSERT_TRUE(b.f.mnuComputeOGColor());
+  EXPECT_EQ(b.f.lvMalts[0].quantity, "8.5");  // 8.51 lbs
+}
+
+TEST(MaltFormulator, ColourBelowOneIsRaisedToThreeAndTheRunGoesOn) {
+  FormBench b({CalcBench::pale(5)});
+  b.f.txtTargetColor = "0.5";
+  ASSERT_TRUE(b.f.mnuComputeOGColor());
+  EXPECT_EQ(b.f.txtTargetColor, "3.0");
+  EXPECT_EQ(b.f.lvMalts[0].quantity, "8.7");
+  // Colour 4.2 is above the target already: no search, no closing message.
+  EXPECT_EQ(shownLines(b.cb.b.prompter),
+            (std::vector<std::string>{"Error: Color less than 1 will not be computed, adjusted to 3.0"}));
+}
+
+TEST(MaltFormulator, SearchTradesTheBaseMaltForDarkerOnesUntilTheColourIsNear) {
+  FormBench b({CalcBench::pale(8), CalcBench::crystal(1)});
+  b.f.txtTargetColor = "12.0";
+  ASSERT_TRUE(b.f.mnuComputeOGColor());
+  EXPECT_TRUE(b.cb.b.prompter.shown.empty());
+  const double colour = lenientValue(b.f.txtCompColor);
+  EXPECT_GE(colour, 11.5);
+  EXPECT_LT(colour, 12.5);
+  EXPECT_EQ(b.f.txtCompOG, "1.050");
+  EXPECT_EQ(b.f.saveImage, "Save-Changed");
+}
+
+TEST(MaltFormulator, ChecksStopInTheirOrderWithTheirMessages) {
+  struct Case {
+    std::function<void(MaltFormulator&)> set;
+    bool solver;
+    const char* message;
+  };
+  const std::vector<Case> cases = {
+      {[](MaltFormulator& f) { f.lvMalts.resize(21, f.lvMalts[0]); f.Volume = 0; }, true,
+       "Error: Limited to using 20 malts for Malt Formulator"},
+      {[](MaltFormulator& f) { f.Volume = 0; f.txtTargetOG = "1.0"; }, false, "Error: Must have a Non-Zero Volume quantity"},
+      {[](MaltFormulator& f) { f.txtTargetOG = "1.0005"; }, false, "Error: OG less than 1.001 will not be computed"},
+      {[](MaltFormulator& f) { f.txtTargetOG = "1.201"; }, true, "Error: OG greater than 1.200 will not be computed"},
+      {[](MaltFormulator& f) { f.txtMashEff = "29"; }, false, "Error: Mash Efficiencies less than 30% are not reasonable"},
+      {[](MaltFormulator& f) { f.txtMashEff = "101"; }, true, "Error: Mash Efficiencies greater than 100% are not reasonable"},
+      {[](MaltFormulator& f) { f.lvMalts[1].targetPct = "10"; }, false,
+       "Error: Percentages must total to 100% for this calculation"},
+      {[](MaltFormulator& f) { f.lvMalts[1].extraction = "1.000"; }, true,
+       "Error - Invlaid Extraction: Crystal 60 Extraction must be greater than 1.000"},
+      {[](MaltFormulator& f) { f.MashType = 1; for (auto& m : f.lvMalts) m.mash = true; }, true,
+       "Error: Partial Mash not possible with no extract malts"},
+  };
+  for (const Case& c : cases) {
+    FormBench b({CalcBench::pale(8), CalcBench::crystal(2)});
+    c.set(b.f);
+    EXPECT_FALSE(c.solver ? b.f.mnuComputeOGColor() : b.f.mnuComputeOG()) << c.message;
+    EXPECT_EQ(shownLines(b.cb.b.prompter), std::vector<std::string>{c.message});
+  }
+}
+
+TEST(MaltFormulator, FixedPercentagesExportToTheRecipe) {
+  FormBench b({CalcBench::pale(8), CalcBench::crystal(2)});
+  EXPECT_EQ(b.f.lblTotal, "(100%)");
+  EXPECT_FALSE(b.f.mnuFileExport());
+  b.f.setTargetPct(0, "90");
+  b.f.setTargetPct(1, "10");
+  ASSERT_TRUE(b.f.mnuComputeOG());
+  // X = 0.9 * 0.0288 + 0.1 * 0.034 = 0.02932; T = 0.25 / X = 8.53: 7.7 and 0.85 lbs.
+  EXPECT_EQ(b.f.lvMalts[0].quantity, "7.7");
+  EXPECT_EQ(b.f.lvMalts[1].quantity, "0.85");
+  EXPECT_EQ(b.f.lvMalts[1].computedPct, "10");
+  b.cb.b.prompter.answers = {Answer::OK};
+  ASSERT_TRUE(b.f.mnuFileExport());
+  const IngredientTable& g = b.cb.editor.sheet.grid;
+  const int first = g.headerRow(KIND_MALT) + 1;
+  EXPECT_EQ(g.itemCount(KIND_MALT), 2);
+  EXPECT_EQ(g.cell(first, COL_QTY), "7.7");
+  EXPECT_EQ(g.cell(first + 1, COL_QTY), "0.85");
+  EXPECT_EQ(g.cell(first + 1, COL_COST), "$1.60");
+  EXPECT_TRUE(b.cb.editor.recipeChanged() && !b.f.changed);
+  EXPECT_EQ(shownLines(b.cb.b.prompter)[0],
+            "Advanced Malt Formulator: No Calculations Performed, There are No Changes to Export");
+}
