@@ -60,6 +60,10 @@ struct ReadingRow {
   std::string type, date, temp, gravity, note;
 };
 
+// The comments window keeps its place and the folder of its text files in "Batch Log Comments".
+constexpr const char* kBatchLogCommentsSection = "Batch Log Comments";
+constexpr size_t kBatchLogCommentLength = 512;
+
 // The settings of the window, section "Batch Log".
 constexpr const char* kBatchLogSection = "Batch Log";
 struct BatchLogWindowSettings {
@@ -133,6 +137,12 @@ class BatchLogEditor {
   void setConditionDetails(const std::string& text);
   void setContainerUnits(int which, int index);
   void setComments(const std::string& text);
+
+  // The comments window's text files: the import replaces the comments with a file's text (line
+  // ends made CR LF; a text beyond 512 characters is cut there, after saying so); the export
+  // writes them as they stand. Both remember the folder in "File Path". False after a message.
+  bool importComments(const std::string& path);
+  bool exportComments(const std::string& path);
 
   // Mash steps.
   void addMashEntry(double minutes, double temp, double infusion);

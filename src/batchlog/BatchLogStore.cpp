@@ -117,7 +117,10 @@ void refreshRecipeLogSuffix(Workbench& wb, int recipeNo) {
   RecipeList& list = wb.recipeList;
   const std::string key = "R" + itos(recipeNo);
   if (!list.tree.find(key) || wb.recipe.rec.recipeNo != recipeNo) return;
-  if (auto text = list.leafText(wb.recipe.rec, list.logSuffix(wb, recipeNo))) list.tree.setText(key, *text);
+  if (auto text = list.leafText(wb.recipe.rec, list.logSuffix(wb, recipeNo))) {
+    list.tree.setText(key, *text);
+    if (wb.refreshRecipeTree) wb.refreshRecipeTree();
+  }
 }
 
 BatchLogEntry BatchLogList::entryOf(long recordNo, const BatchLogRecord& r) {

@@ -3,6 +3,7 @@
 #include <QEvent>
 
 #include "ui/dlgScale.h"
+#include "ui/frmBatchLogList.h"
 #include "ui/frmComments.h"
 #include "ui/frmFermentation.h"
 #include "ui/frmHelp.h"
@@ -56,6 +57,7 @@ frmRecipe& ProgramWindows::recipe() {
     r.openProperties = [this] { openProperties(recipe_.get()); };
     r.showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
     r.showHelp = [this](int where) { main_.showHelp(where); };
+    r.setToolOpener(RecipeTool::BatchLog, [this] { showBatchLogList(); });
     // A change in the fermentation window shows on the editor's save button.
     FermentationForm& f = r.editor().fermentation;
     f.onChanged = [&r] {
@@ -66,6 +68,7 @@ frmRecipe& ProgramWindows::recipe() {
     connect(&r, &frmRecipe::closed, this, [this] {
       if (fermentation_) fermentation_->close();
       if (comments_) comments_->close();
+      if (batchLogList_) batchLogList_->close();
     });
   }
   return *recipe_;
@@ -94,6 +97,19 @@ frmComments& ProgramWindows::comments() {
     comments_->showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
   }
   return *comments_;
+}
+
+frmBatchLogList& ProgramWindows::batchLogList() {
+  if (!batchLogList_) {
+    batchLogList_ = new frmBatchLogList(wb_, recipe().editor(), &recipe());
+    batchLogList_->showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
+  }
+  return *batchLogList_;
+}
+
+void ProgramWindows::showBatchLogList() {
+  frmBatchLogList& l = batchLogList();
+  if (l.loadForOpenRecipe()) bringForward(l);
 }
 
 void ProgramWindows::showRecipeList() { bringForward(recipeList()); }
@@ -125,6 +141,7 @@ void ProgramWindows::showComments() {
 }
 
 void ProgramWindows::closeAll() {
+  if (batchLogList_) batchLogList_->close();
   if (comments_) comments_->close();
   if (fermentation_) fermentation_->close();
   if (scale_) scale_->close();

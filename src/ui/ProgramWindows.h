@@ -16,6 +16,7 @@ class frmRecipe;
 class dlgScale;
 class frmFermentation;
 class frmComments;
+class frmBatchLogList;
 
 class ProgramWindows : public QObject {
   Q_OBJECT
@@ -31,6 +32,7 @@ class ProgramWindows : public QObject {
   dlgScale& scale();
   frmFermentation& fermentation();
   frmComments& comments();
+  frmBatchLogList& batchLogList();
 
   // What the menus and buttons do.
   void showRecipeList();
@@ -39,6 +41,8 @@ class ProgramWindows : public QObject {
   void openScale();
   void showFermentation();
   void showComments();
+  // The logs of the open recipe (once it has been saved).
+  void showBatchLogList();
   // Closes every window that was created (they close for good while appClosing is set).
   void closeAll();
 
@@ -53,10 +57,11 @@ class ProgramWindows : public QObject {
   frmMain& main_;
   std::unique_ptr<frmRecipeList> recipeList_;
   std::unique_ptr<frmRecipe> recipe_;
-  // These three are owned by the editor's window, which they belong to.
+  // These are owned by the editor's window, which they belong to.
   QPointer<dlgScale> scale_;
   QPointer<frmFermentation> fermentation_;
   QPointer<frmComments> comments_;
+  QPointer<frmBatchLogList> batchLogList_;
 };
 
 }  // namespace zy
