@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QRegularExpressionValidator>
 #include <QScreen>
+#include <QStyle>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
@@ -154,14 +155,14 @@ frmBatchLog::frmBatchLog(Workbench& wb, BatchLogEditor& editor, QWidget* parent)
   mnuFileSave = file->addAction(recipeIcon("Save"), "&Save", this, [this] { mnuFileSave_Click(); });
   mnuFileSave->setShortcut(QKeySequence::Save);
   mnuFilePreview = file->addAction(recipeIcon("Preview"), "Print Pre&view...");
-  mnuFilePrint = file->addAction(recipeIcon("Print"), "&Print");
+  mnuFilePrint = file->addAction(toolIcon(ToolIcon::Print), "&Print");
   for (QAction* a : {mnuFilePreview, mnuFilePrint}) {
     a->setEnabled(false);
     a->setToolTip("Comes with the batch log report");
     a->setStatusTip("Comes with the batch log report");
   }
   file->addSeparator();
-  mnuFileClose = file->addAction(recipeIcon("Close"), "&Close", this, &QWidget::close);
+  mnuFileClose = file->addAction(style()->standardIcon(QStyle::SP_DialogCloseButton), "&Close", this, &QWidget::close);
   file->setToolTipsVisible(true);
   QMenu* edit = menuBar()->addMenu("&Edit");
   mnuEditComments = edit->addAction(recipeIcon("Comments"), "&Comments...", this, [this] { mnuEditComments_Click(); });

@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QStyle>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -59,7 +60,8 @@ frmBatchLogList::frmBatchLogList(Workbench& wb, RecipeEditor& recipe, QWidget* p
   cmdHelp->setObjectName("cmdHelp");
   cmdHelp->setToolTip("Help on the batch log");
   buttons->addWidget(cmdHelp);
-  cmdClose = button("cmdClose", "&Close", "Close", "Close the list");
+  cmdClose = button("cmdClose", "&Close", "", "Close the list");
+  cmdClose->setIcon(style()->standardIcon(QStyle::SP_DialogCloseButton));
   row->addLayout(buttons);
   box->addLayout(row, 1);
   setCentralWidget(central);
