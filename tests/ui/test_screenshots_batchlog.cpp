@@ -64,7 +64,7 @@ TEST(Screenshots, BatchLogWindows) {
   }
   const struct { LogField f; const char* text; } boxes[] = {
       {LogField::SpargeVolume, "4.5"},  {LogField::SpargeTemp, "170"},   {LogField::MashVolume, "7.5"},
-      {LogField::MashGravity, "1.050"}, {LogField::MashTemp, "104"},     {LogField::BoilVolume, "6.5"},
+      {LogField::MashGravity, "1.042"}, {LogField::MashTemp, "104"},     {LogField::BoilVolume, "6.5"},
       {LogField::BoilTime, "60"},       {LogField::KraeuseningWort, "0"}, {LogField::FermentVolume, "5.25"},
       {LogField::FermentGravity, "1.052"}, {LogField::FermentTemp, "70"}, {LogField::PitchingTemp, "68"},
       {LogField::Quantity1, "48"},      {LogField::Capacity1, "12"},      {LogField::Quantity2, "4"},
