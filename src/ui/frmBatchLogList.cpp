@@ -90,6 +90,11 @@ bool frmBatchLogList::loadForOpenRecipe() {
     wb_.prompter.message("Save the Recipe before you keep a Batch Log of it.", "Batch Log", Icon::Information);
     return false;
   }
+  // A log of another recipe still open in the log window is closed first (with its question).
+  if (log_ && log_->isVisible() && list_.recipeNo != recipeNo) {
+    log_->close();
+    if (log_->isVisible()) return false;
+  }
   list_.loadBatchLogList(wb_, recipeNo);
   refreshFromModel();
   return true;

@@ -6,6 +6,7 @@
 #include "core/dates.h"
 #include "core/measures.h"
 #include "core/records.h"
+#include "core/settings.h"
 #include "recipes/IngredientTable.h"
 #include "support/TestSupport.h"
 
@@ -177,6 +178,24 @@ TEST_F(Editor, ListLimitsDatesAndTheChangedState) {
   ed.setCondition("Priming");
   EXPECT_EQ(ed.saveButtonImage, "Save-Changed");
   EXPECT_EQ(ed.saveButtonTip, "Save Batch Log - Changed");
+}
+
+TEST(BatchLogSettings, PlaceKeptInItsSectionAndCentredWithoutOne) {
+  MemorySettingsStore s;
+  EXPECT_FALSE(BatchLogWindowSettings::read(s).stored);
+  BatchLogWindowSettings w;
+  w.left = 1500, w.top = 900;
+  w.write(s);
+  EXPECT_EQ(s.writeCount, 3);
+  for (auto [key, value] : {std::pair{"WindowState", "0"}, {"MainLeft", "1500"}, {"MainTop", "900"}})
+    EXPECT_EQ(s.read("Batch Log", key, "-"), value) << key;
+  const BatchLogWindowSettings back = BatchLogWindowSettings::read(s);
+  EXPECT_TRUE(back.stored);
+  EXPECT_EQ(back.left, 1500);
+  w.windowState = 2;  // maximized: the place is not written
+  w.left = 0;
+  w.write(s);
+  EXPECT_EQ(s.read("Batch Log", "MainLeft", ""), "1500");
 }
 
 TEST_F(Editor, SaveWritesTheListsFromTheFirstPositionAndANewLogAsksOnClose) {
