@@ -177,8 +177,14 @@ frmBatchLog::frmBatchLog(Workbench& wb, BatchLogEditor& editor, QWidget* parent)
   tbToolBar->setObjectName("tbToolBar");
   tbToolBar->setMovable(false);
   tbToolBar->setIconSize(QSize(20, 20));
-  for (QAction* a : {mnuFileSave, mnuFilePreview, mnuFilePrint, mnuEditComments, mnuFileClose, mnuHelpContents})
+  // The toolbar's buttons by their keys.
+  const std::pair<QAction*, const char*> buttons[] = {{mnuFileSave, "Save"},         {mnuFilePreview, "Preview"},
+                                                      {mnuFilePrint, "Print"},       {mnuEditComments, "Comments"},
+                                                      {mnuFileClose, "Close"},       {mnuHelpContents, "Help"}};
+  for (auto [a, key] : buttons) {
     tbToolBar->addAction(a);
+    tbToolBar->widgetForAction(a)->setObjectName(key);
+  }
   mnuFileClose->setToolTip("Close the Batch Log");
 
   // ---- The brew ----

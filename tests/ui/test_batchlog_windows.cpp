@@ -8,6 +8,8 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QToolBar>
+#include <QToolButton>
 #include <QTreeWidget>
 
 #include "batchlog/BatchLogRecord.h"
@@ -74,7 +76,7 @@ TEST(BatchLogWindows, ABrewLoggedFromTheRecipeEditor) {
 
   log.mnuEditComments_Click();
   type(log.comments().txtComments, "Hit the mash temperature.");
-  log.mnuFileSave->trigger();
+  QTest::mouseClick(log.tbToolBar->findChild<QToolButton*>("Save"), Qt::LeftButton);
   EXPECT_EQ(log.mnuFileSave->toolTip(), "Save Batch Log");
   const BatchLogRecord saved = BatchLogRecord::decode(readFile(b.wb->folder.dataFile(kBatchLogFile)));
   EXPECT_EQ(saved.recipeNo, 1);
