@@ -334,7 +334,7 @@ frmBatchLog::frmBatchLog(Workbench& wb, BatchLogEditor& editor, QWidget* parent)
   auto* fermSGTemp = numberBox(LogField::FermentTemp, "txtFGTemp", "The temperature of the sample", 52);
   fg->addWidget(label("Initial Fermentation S&G:", fermSG), 1, 0);
   fg->addWidget(fermSG, 1, 1);
-  fg->addWidget(label("at"), 1, 2, Qt::AlignRight);
+  fg->addWidget(label("at"), 1, 3, Qt::AlignRight);
   fg->addWidget(fermSGTemp, 1, 4);
   fg->addWidget(tempUnit(), 1, 5);
   lblAdjSG2 = new QLabel;
