@@ -1,6 +1,8 @@
 #include "recipes/RecipeList.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <cmath>
 #include <cstdio>
 #include <unordered_set>
@@ -223,8 +225,9 @@ RecipeListSettings RecipeListSettings::read(const Workbench& wb) {
   r.mainTop = readLong(s, kRecipeListSection, "MainTop", 2000);
   r.mainWidth = readLong(s, kRecipeListSection, "MainWidth", 4000);
   r.mainHeight = readLong(s, kRecipeListSection, "MainHeight", 6500);
+  // Taken as stored: a mode without a menu entry is refused by the tree's rebuild.
   long sortBy = readLong(s, kRecipeListSection, "Sort By", 0);
-  r.sortBy = (sortBy < 0 || sortBy > SORT_BY_NAME_REVERSE) ? 0 : static_cast<int>(sortBy);
+  r.sortBy = static_cast<int>(std::clamp<long>(sortBy, INT_MIN, INT_MAX));
   r.showLogCount = readSwitch(s, "Show Log Count", false);
   r.exportPath = s.read(kRecipeListSection, "Export Path", "");
   r.importPath = s.read(kRecipeListSection, "Import Path", "");
@@ -256,7 +259,12 @@ void RecipeList::showCount() { lblTitle = lblTitleTag + tree.tag; }
 
 bool RecipeList::mnuSortBy_Click(Workbench& wb, int index) {
   if (index == sortMode) return true;
-  if (index < 0 || index >= static_cast<int>(SortNames().size())) return false;
+  // Only the five modes of the Sort menu can be checked; any other number is an index failure,
+  // which the error routine reports as an unknown error and which ends the program.
+  if (index < SORT_BY_NAME || index > SORT_BY_MASH) {
+    wb.errors.reportError(ERR_SUBSCRIPT, 0, kSortFn, "", "Subscript out of range");
+    return false;
+  }
   tree.clear();
   selectedKey.clear();
   wb.recipeSlotPosition = 0;

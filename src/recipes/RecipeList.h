@@ -94,7 +94,7 @@ constexpr int SORT_BY_NAME = 0, SORT_BY_STYLE = 1, SORT_BY_TYPE = 2, SORT_BY_DAT
 constexpr const char* kRecipeListSection = "Recipe List";
 struct RecipeListSettings {
   long mainLeft = 1000, mainTop = 2000, mainWidth = 4000, mainHeight = 6500;
-  int sortBy = 0;
+  int sortBy = 0;  // as stored, unchecked
   bool showLogCount = false;
   std::string exportPath, importPath;
   static RecipeListSettings read(const Workbench& wb);
@@ -133,7 +133,8 @@ class RecipeList {
 
   // Rebuilds the tree in sort mode `index` by a scan of ZYRecipe.dat; nothing when `index` is the
   // mode in force. Sets the next-slot position of findNextRecipeSlot. False when the scan was
-  // stopped by an error (the tree keeps what it has).
+  // stopped by an error (the tree keeps what it has). A mode outside 0..4 is error 9 in
+  // RecipeList!mnuSortBy_Click, which ends the program.
   bool mnuSortBy_Click(Workbench& wb, int index);
   // Flips the log count check and rebuilds in the same mode.
   void mnuSortLogCount_Click(Workbench& wb);

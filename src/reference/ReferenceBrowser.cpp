@@ -17,7 +17,7 @@ const char* const kFnLoad = "frmMain!Form_Load";
 }  // namespace
 
 const char* const kTopicTabKeys[kTopicTreeCount] = {"All Topics", "Mini-Books", "History", "Also See", "Search"};
-const char* const kTopicTabCaptions[kTopicTreeCount] = {"&All Topics", "&Mini-Books", "&History",
+const char* const kTopicTabCaptions[kTopicTreeCount] = {"&All Topics", "&Mini-Books", "His&tory",
                                                         kAlsoSeeCaptionEmpty, "&Search"};
 
 const char* iconKey(TopicIcon icon) {

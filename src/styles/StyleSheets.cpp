@@ -131,4 +131,30 @@ bool buildStyleTablesFromSheets(std::string_view categoriesCsv, std::string_view
   return true;
 }
 
+bool mergeStyleDescriptions(std::string_view descriptionsCsv, StyleTables& t, std::string& error) {
+  std::vector<bool> described(static_cast<size_t>(t.BeerStyleCount), false);
+  for (const auto& [number, line] : dataLines(descriptionsCsv)) {
+    const auto c = splitCsvLine(line);
+    auto fail = [&, n = number](const std::string& what) {
+      error = "descriptions line " + itos(n) + ": " + what;
+      return false;
+    };
+    if (c.size() != 3) return fail("expected 3 cells");
+    const int source = styleSourceCode(trim(c[0]));
+    const std::string name = trim(utf8ToCp1252(c[1]));
+    const std::string text = trim(utf8ToCp1252(c[2]));
+    int row = -1;
+    for (int k = 0; k < t.BeerStyleCount && row < 0; ++k) {
+      const BeerStyleRecord& s = t.BeerStyles[static_cast<size_t>(k)];
+      if (s.source == source && trim(s.styleName) == name) row = k;
+    }
+    if (row < 0) return fail("no style " + trim(c[0]) + " " + trim(c[1]));
+    if (described[static_cast<size_t>(row)]) return fail("a second description for " + trim(c[1]));
+    if (text.empty() || text.size() > 32767) return fail("the description of " + trim(c[1]) + " is empty or too long");
+    described[static_cast<size_t>(row)] = true;
+    t.BeerStyles[static_cast<size_t>(row)].comments = text;
+  }
+  return true;
+}
+
 }  // namespace zy

@@ -28,4 +28,11 @@ int styleSourceCode(std::string_view name);
 bool buildStyleTablesFromSheets(std::string_view categoriesCsv, std::string_view stylesCsv, StyleTables& t,
                                 std::string& error);
 
+// Puts the shipped style descriptions into the comments of the styles already in the tables.
+// The sheet (UTF-8): source,style_name,description. A row is keyed by source and style name;
+// a row whose style is not in the tables, a second row for the same style, or a description
+// that is empty or longer than a comment block holds is refused, with a message naming the
+// line and the style. Styles without a row keep their comment.
+bool mergeStyleDescriptions(std::string_view descriptionsCsv, StyleTables& t, std::string& error);
+
 }  // namespace zy

@@ -21,8 +21,7 @@ frmMain* SubMain::run(const std::string& commandLine, const std::function<void(f
   splash->raise();
   QApplication::processEvents();
   if (splashShown) splashShown(*splash);
-  // 3. The start of the wait.
-  const double startTime = wb_.clock.secondsOfDay();
+  // 3. The start of the wait, on the monotonic clock.
   QElapsedTimer elapsed;
   elapsed.start();
 
@@ -31,15 +30,13 @@ frmMain* SubMain::run(const std::string& commandLine, const std::function<void(f
   if (prepare) prepare(*mainWindow);
   mainWindow->load(commandLine);
 
-  // 5. With no command line, the rest of the four seconds or a click on the splash. The time of
-  // day is the clock's; the elapsed time guards against a clock that stands still.
+  // 5. With no command line, the rest of the four seconds or a click on the splash.
   if (splashWaitWanted(commandLine)) {
     waited = true;
     splash->splashDone = false;
-    while (!splashWaitOver(startTime, wb_.clock.secondsOfDay(), splash->splashDone) &&
-           elapsed.elapsed() < static_cast<qint64>(kSplashSeconds * 1000)) {
+    while (!splashWaitOver(0, elapsed.elapsed(), splash->splashDone)) {
       QApplication::processEvents(QEventLoop::AllEvents, 20);
-      QThread::msleep(10);
+      QThread::msleep(5);
     }
     waitedSeconds = elapsed.elapsed() / 1000.0;
   }

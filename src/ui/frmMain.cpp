@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPageSetupDialog>
+#include <QPainter>
 #include <QPrintDialog>
 #include <QProcess>
 #include <QPushButton>
@@ -60,6 +61,33 @@ class TopicBrowser : public QTextBrowser {
 };
 
 const QString kNotYet = QObject::tr("Not available in this version of Zythara");
+
+// The topic's title above the page: a long title ends in an ellipsis instead of widening the
+// window's right side over the topic lists; the whole title is in the tool tip.
+class ElidedLabel : public QLabel {
+ public:
+  QSize minimumSizeHint() const override {
+    return {fontMetrics().averageCharWidth() * 8, QLabel::minimumSizeHint().height()};
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter p(this);
+    const QRect r = contentsRect();
+    p.setPen(palette().color(foregroundRole()));
+    p.drawText(r, static_cast<int>(alignment()) | Qt::TextSingleLine,
+               fontMetrics().elidedText(text(), Qt::ElideRight, r.width()));
+  }
+};
+
+// The page as the renderer takes it. A topic's pictures come as tables aligned left, which a
+// browser floats beside the text; this renderer floats a table only when told so by its style,
+// so the float is spelled out, with a little room between the picture and the text.
+QString renderablePage(const std::string& page) {
+  QString html = qs(page);
+  html.replace("<TABLE ALIGN=left BORDER=5>", "<TABLE ALIGN=left BORDER=5 STYLE=\"float: left; margin-right: 10px\">");
+  return html;
+}
 
 }  // namespace
 
@@ -245,7 +273,7 @@ QWidget* frmMain::buildPagePanel() {
   v->setContentsMargins(0, 4, 4, 4);
   v->setSpacing(4);
   auto* top = new QHBoxLayout;
-  lblTitle = new QLabel;
+  lblTitle = new ElidedLabel;
   lblTitle->setObjectName("lblTitle");
   QFont f = lblTitle->font();
   f.setPointSizeF(f.pointSizeF() * 1.3);
@@ -339,6 +367,18 @@ void frmMain::buildMenus() {
     txtSearch->selectAll();
   });
   addAction(find);
+
+  // Ctrl+Tab and Ctrl+Shift+Tab walk through the topic lists, wherever the focus is.
+  for (int step : {1, -1}) {
+    auto* walk = new QAction(this);
+    if (step > 0) walk->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Tab));
+    else walk->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab)});
+    walk->setShortcutContext(Qt::WindowShortcut);
+    connect(walk, &QAction::triggered, this, [this, step] {
+      tabTopics->setCurrentIndex((tabTopics->currentIndex() + step + kTopicTreeCount) % kTopicTreeCount);
+    });
+    addAction(walk);
+  }
 }
 
 void frmMain::buildToolbar() {
@@ -550,6 +590,7 @@ void frmMain::refreshFromModel() {
   picAlsoSee->setVisible(browser_.alsoSeePanelVisible());
 
   lblTitle->setText(qs(browser_.lblTitle));
+  lblTitle->setToolTip(lblTitle->text());
   cmdGoBack->setEnabled(browser_.cmdGoBackEnabled);
   cmdAlsoSee->setEnabled(browser_.cmdAlsoSeeEnabled);
   const QString original = qs(browser_.lblAlsoSeeTopic);
@@ -568,7 +609,7 @@ void frmMain::refreshFromModel() {
 }
 
 void frmMain::showPage() {
-  webTopic->setHtml(qs(browser_.page));
+  webTopic->setHtml(renderablePage(browser_.page));
   webTopic->verticalScrollBar()->setValue(0);
   setWindowTitle(QString("%1 - %2").arg(kApplicationName, qs(browser_.lblTitle)));
 }

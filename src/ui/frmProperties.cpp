@@ -237,7 +237,7 @@ QWidget* frmProperties::buildUnitsPage() {
   form->addRow(tr("Su&pplies:"), makeCombo("cboSupplyUnits", tr("Unit of supplies (for this session only)")));
   form->addRow(tr("&Sparge Water:"), makeCombo("cboSpargeUnits", tr("Volume unit of the sparge water")));
   auto* exp = new QVBoxLayout;
-  exp->addWidget(makeCheck("chkShortNames", tr("S&hort File Names (8 characters)"),
+  exp->addWidget(makeCheck("chkShortNames", tr("Short &File Names (8 characters)"),
                            tr("Propose export file names of at most eight characters")));
   exp->addWidget(makeCheck("chkUnixNames", tr("U&nix File Names (underscores for blanks)"),
                            tr("Propose export file names without blanks")));

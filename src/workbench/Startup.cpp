@@ -91,10 +91,8 @@ CommandLine parseCommandLine(const std::vector<std::string>& args) {
 
 bool splashWaitWanted(const std::string& trimmedCommandLine) { return trim(trimmedCommandLine).empty(); }
 
-bool splashWaitOver(double startSeconds, double nowSeconds, bool splashDone) {
-  if (splashDone) return true;
-  if (nowSeconds < startSeconds) nowSeconds += 86400.0;  // past midnight
-  return nowSeconds >= startSeconds + kSplashSeconds;
+bool splashWaitOver(long long startMs, long long nowMs, bool splashDone) {
+  return splashDone || nowMs - startMs >= kSplashMilliseconds;
 }
 
 std::string splashVersionLine() { return "Version " + versionText(); }

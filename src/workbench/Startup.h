@@ -53,7 +53,9 @@ class LoadSequence {
 
 // ---- The splash window and the wait -------------------------------------------------------------
 
-constexpr double kSplashSeconds = 4.0;
+// The splash stays four seconds, counted in milliseconds on a clock that only goes forward, so
+// that neither the whole seconds of the time of day nor a change of the clock shortens it.
+constexpr long long kSplashMilliseconds = 4000;
 
 // The command line as one text, trimmed: the arguments that are not options of ours, joined by
 // blanks. Options (--home DIR, --settings FILE, and their "=" forms) are taken out.
@@ -67,9 +69,9 @@ CommandLine parseCommandLine(const std::vector<std::string>& args);
 
 // With a command line there is no wait.
 bool splashWaitWanted(const std::string& trimmedCommandLine);
-// The wait is over when the splash was clicked or 4 seconds have passed since `startSeconds`
-// (seconds of the day; a wait that runs over midnight counts on from 86400).
-bool splashWaitOver(double startSeconds, double nowSeconds, bool splashDone);
+// The wait is over when the splash was clicked or 4000 ms have passed since `startMs` (both read
+// from the same monotonic clock).
+bool splashWaitOver(long long startMs, long long nowMs, bool splashDone);
 
 // "Version " + the version text, as the splash and the about box show it.
 std::string splashVersionLine();

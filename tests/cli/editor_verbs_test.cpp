@@ -36,32 +36,7 @@ struct Files {
     EXPECT_TRUE(saveBeerStyles(wb));
   }
 
-  void recipe(int no, const std::string& style) {
-    newRecipeRecord(wb);
-    CurrentRecipe& c = wb.recipe;
-    c.rec.recipeNo = no;
-    c.rec.recipeName = "Amber";
-    c.rec.beerStyle = style;
-    c.rec.volumeUnits = US_GAL_CONST;
-    c.rec.fermentVolume = 5;
-    c.rec.boilVolume = 5;
-    c.rec.mashType = 2;
-    c.rec.mashEfficiency = 75;
-    auto item = [&](int k, int kind, const char* name, double q, int u, double cost, double rating, double detail,
-                    int mash) {
-      RecipeItemRecord& it = c.items[static_cast<size_t>(k)];
-      it.itemKind = kind, it.itemName = name, it.quantity = q, it.quantityUnits = u, it.unitCost = cost;
-      it.rating = rating, it.detail = detail, it.mashFlag = mash;
-    };
-    item(0, KIND_MALT, "Pale Malt", 8, UNIT_LBS, 1.10, 1.036, 3, -1);
-    item(1, KIND_MALT, "Crystal 60", 1, UNIT_LBS, 1.60, 1.034, 60, 0);
-    item(2, KIND_HOPS, "Cascade", 1, UNIT_OZ, 1.25, 5.5, 60, 0);
-    item(3, KIND_HOPS, "Centennial", 0.5, UNIT_OZ, 1.50, 10.0, 15, 0);
-    item(4, KIND_OTHER, "Irish Moss", 1, 5, 0.35, 0, 0, 0);
-    item(5, KIND_YEAST, "American Ale", 1, 0, 4.99, 0.75, 0, 0);
-    c.rec.itemCount = 6;
-    ASSERT_TRUE(saveCurrentRecipe(wb));
-  }
+  void recipe(int no, const std::string& style) { ASSERT_TRUE(storeAmber(wb, no, "Amber", style)); }
 };
 }  // namespace
 

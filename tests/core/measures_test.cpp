@@ -17,16 +17,26 @@ TEST(Measures, ListsKeepTheirFileOrder) {
 }
 
 TEST(Measures, ConversionTablesAreStoredEntries) {
+  const double weight[4][4] = {{1.0, 16.0, 0.4535924, 453.5924},
+                               {0.0625, 1.0, 0.028349525, 28.349525},
+                               {2.204622476, 35.2739596, 1.0, 1000.0},
+                               {0.002204622476, 0.0352739596, 0.001, 1.0}};
+  const double volume[8][8] = {
+      {1.0, 31.0, 124.0, 1.17347772, 117.347772, 0.717024697082, 25.812889095, 103.25155638},
+      {0.032258064516, 1.0, 4.0, 0.037854118, 3.7854118, 0.023129828938, 0.832673841773, 3.330695367091},
+      {0.008064516, 0.25, 1.0, 0.0094635295, 0.94635295, 0.005782457235, 0.208168460443, 0.832673841773},
+      {0.852167862207, 26.417203728418, 105.668814913674, 1.0, 100.0, 0.611025437035, 21.996915733256, 87.98766293302},
+      {0.008521678622, 0.264172037284, 1.056688149137, 0.01, 1.0, 0.00611025437, 0.219969157333, 0.87987662933},
+      {1.3946521, 43.23421512, 172.93686048, 1.6365930768, 163.65930768, 1.0, 36.0, 144.0},
+      {0.038740336129, 1.20095042, 4.80380168, 0.0454609188, 4.54609188, 0.02777778, 1.0, 4.0},
+      {0.009685084032, 0.300237605, 1.20095042, 0.0113652297, 1.13652297, 0.0069444444, 0.25, 1.0}};
   const auto& m = zy::measures();
-  EXPECT_EQ(m.weightConvert[zy::UNIT_KG][zy::UNIT_LBS], 2.204622476);
-  EXPECT_EQ(m.weightConvert[zy::UNIT_OZ][zy::UNIT_GR], 28.349525);
-  EXPECT_EQ(m.volume_convert[zy::US_BBL_CONST][zy::US_GAL_CONST], 31.0);
-  EXPECT_EQ(m.volume_convert[zy::IMPERIAL_BBL_CONST][zy::IMPERIAL_GAL_CONST], 36.0);
-  EXPECT_EQ(m.volume_convert[6][5], 0.02777778);
+  for (int a = 0; a < 4; ++a)
+    for (int b = 0; b < 4; ++b) EXPECT_EQ(m.weightConvert[a][b], weight[a][b]) << a << "," << b;
+  for (int a = 0; a < 8; ++a)
+    for (int b = 0; b < 8; ++b) EXPECT_EQ(m.volume_convert[a][b], volume[a][b]) << a << "," << b;
   // A gallon to liters and back is close to, but not exactly, one gallon.
-  const double back = 1.0 * m.volume_convert[zy::US_GAL_CONST][zy::LITER_CONST] *
-                      m.volume_convert[zy::LITER_CONST][zy::US_GAL_CONST];
-  EXPECT_EQ(back, 3.7854118 * 0.264172037284);
+  const double back = m.volume_convert[zy::US_GAL_CONST][zy::LITER_CONST] * m.volume_convert[zy::LITER_CONST][zy::US_GAL_CONST];
   EXPECT_NE(back, 1.0);
   EXPECT_NEAR(back, 1.0, 1e-7);
 }

@@ -296,36 +296,3 @@ TEST(RecipeCalculations, ExtractionPercentOfTheMaximum) {
   EXPECT_EQ(lblExtPct(0.999), "(0%)");
   EXPECT_EQ(lblExtPct(2.0), "(0%)");
 }
-
-TEST(IngredientTable, SectionsAreFoundByColumnZero) {
-  IngredientTable t;
-  ASSERT_EQ(t.rowCount(), 5);
-  EXPECT_EQ(t.cell(0, 0), "-");
-  EXPECT_EQ(t.cell(0, 1), "Malts");
-  EXPECT_EQ(t.cell(1, 0), "Hops");
-  EXPECT_EQ(t.cell(1, 5), "Alpha %");
-  EXPECT_EQ(t.cell(2, 0), "Other Ingredients");
-  EXPECT_EQ(t.cell(3, 0), "Yeast");
-  EXPECT_EQ(t.cell(3, 5), "Attenuation");
-  EXPECT_EQ(t.cell(4, 0), "Estimated Total Cost");
-  EXPECT_EQ(t.itemCount(), 0);
-
-  const int y = t.insertItem(KIND_YEAST);
-  const int h = t.insertItem(KIND_HOPS);
-  const int m = t.insertItem(KIND_MALT);
-  EXPECT_EQ(y, 4);
-  EXPECT_EQ(h, 2);
-  EXPECT_EQ(m, 1);
-  EXPECT_EQ(t.headerRow(KIND_HOPS), 2);
-  EXPECT_EQ(t.sectionEnd(KIND_HOPS), 4);
-  EXPECT_EQ(t.kindOfRow(1), KIND_MALT);
-  EXPECT_EQ(t.kindOfRow(3), KIND_HOPS);
-  EXPECT_EQ(t.kindOfRow(6), KIND_YEAST);
-  EXPECT_EQ(t.kindOfRow(t.totalRow()), -1);
-  EXPECT_EQ(t.itemCount(KIND_OTHER), 0);
-  EXPECT_FALSE(t.removeRow(0));              // headers stay
-  EXPECT_FALSE(t.removeRow(t.totalRow()));   // and so does the total row
-  EXPECT_TRUE(t.removeRow(3));
-  EXPECT_EQ(t.itemCount(), 2);
-  EXPECT_EQ(t.cell(99, 1), "");
-}

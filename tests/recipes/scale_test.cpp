@@ -29,12 +29,21 @@ struct ScaleBench {
     e.recReset();
   }
   std::string cell(int r, int c) const { return e.sheet.grid.cell(r, c); }
+  // Quantity, unit and cost of the five item rows (1 malt, 3 hops, 5 and 6 others, 8 yeast).
+  std::vector<std::string> items() const {
+    std::vector<std::string> v;
+    for (int r : {1, 3, 5, 6, 8}) v.push_back(cell(r, COL_QTY) + " " + cell(r, COL_UNITS) + " " + cell(r, COL_COST));
+    return v;
+  }
+  // Fermenter and boil volume, volume unit and unit system as the editor shows them, and the OG.
+  std::vector<std::string> volumes() const {
+    return {e.sheet.txtFermentVolume, e.sheet.txtInitalBoilVolume, e.lblVolumeUnits, e.lblUnitType, e.sheet.lblOG};
+  }
 };
 }  // namespace
 
 TEST(ScaleDialog, DoublingTheVolumeDoublesEveryQuantityAndKeepsTheCharacter) {
   ScaleBench t;
-  EXPECT_EQ(t.e.sheet.lblOG, "1.072");
   const std::string ibu = t.e.sheet.lblIBU, color = t.e.sheet.lblColor;
   ScaleDialog d;
   d.open(t.e);
@@ -43,17 +52,10 @@ TEST(ScaleDialog, DoublingTheVolumeDoublesEveryQuantityAndKeepsTheCharacter) {
   EXPECT_EQ(d.optUnits, US_MEASURES);
   d.txtVolume = "10";
   ASSERT_TRUE(d.apply(t.e));
-  EXPECT_EQ(t.cell(1, COL_QTY), "20.0");
-  EXPECT_EQ(t.cell(1, COL_COST), "$1.00");
-  EXPECT_EQ(t.cell(3, COL_QTY), "4.0");
-  EXPECT_EQ(t.cell(5, COL_QTY), "2.0");
-  EXPECT_EQ(t.cell(6, COL_QTY), "8.0");
-  EXPECT_EQ(t.cell(8, COL_QTY), "2.0");
-  EXPECT_EQ(t.e.sheet.txtFermentVolume, "10.0");
-  EXPECT_EQ(t.e.sheet.txtInitalBoilVolume, "7.0");
-  EXPECT_EQ(t.e.sheet.lblOG, "1.072");
-  EXPECT_EQ(t.e.sheet.lblColor, color);
-  EXPECT_EQ(t.e.sheet.lblIBU, ibu);
+  EXPECT_EQ(t.items(), (std::vector<std::string>{"20.0 Lbs $1.00", "4.0 Oz $1.25", "2.0 Tsp $0.35",
+                                                 "8.0 US Fl Oz $0.50", "2.0 Packet $4.00"}));
+  EXPECT_EQ(t.volumes(), (std::vector<std::string>{"10.0", "7.0", "US Gallons", "US Measures", "1.072"}));
+  EXPECT_EQ(t.e.sheet.lblColor + " " + t.e.sheet.lblIBU, color + " " + ibu);
   EXPECT_EQ(t.cell(t.e.sheet.grid.totalRow(), COL_COST), "$37.70");
   EXPECT_TRUE(t.e.recipeChanged());
 }
@@ -67,28 +69,15 @@ TEST(ScaleDialog, MetricSystemConvertsUnitsByTheTables) {
   EXPECT_EQ(d.txtVolume, "18.9");
   d.txtVolume = "20";
   ASSERT_TRUE(d.apply(t.e));
-  // 10 lbs * 1.0567 = 10.567 lbs = 4.793 kg, brought to a multiple of 0.05.
-  EXPECT_EQ(t.cell(1, COL_QTY), "4.8");
-  EXPECT_EQ(t.cell(1, COL_UNITS), "Kg");
+  // 10 lbs * 1.0567 = 10.567 lbs = 4.793 kg, brought to a multiple of 0.05; teaspoons stay
+  // teaspoons; 4.23 US fl oz in mL.
+  EXPECT_EQ(t.items(), (std::vector<std::string>{"4.8 Kg $2.20", "59.9 Gr $0.04", "1.06 Tsp $0.35",
+                                                 "125.0 mL $0.02", "1.06 Packet $4.00"}));
   EXPECT_EQ(t.e.sheet.grid.unitCode(1), UNIT_KG);
-  EXPECT_EQ(t.cell(1, COL_COST), "$2.20");
-  EXPECT_EQ(t.cell(3, COL_QTY), "59.9");
-  EXPECT_EQ(t.cell(3, COL_UNITS), "Gr");
-  EXPECT_EQ(t.cell(3, COL_COST), "$0.04");
-  EXPECT_EQ(t.cell(5, COL_QTY), "1.06");  // teaspoons stay teaspoons
-  EXPECT_EQ(t.cell(5, COL_UNITS), "Tsp");
-  EXPECT_EQ(t.cell(6, COL_QTY), "125.0");  // 4.23 US fl oz in mL
-  EXPECT_EQ(t.cell(6, COL_UNITS), "mL");
-  EXPECT_EQ(t.cell(8, COL_QTY), "1.06");
-  EXPECT_EQ(t.cell(8, COL_UNITS), "Packet");
-  EXPECT_EQ(t.e.sheet.txtFermentVolume, "20.0");
-  EXPECT_EQ(t.e.sheet.txtInitalBoilVolume, "14.0");
-  EXPECT_EQ(t.e.lblVolumeUnits, "Liters");
-  EXPECT_EQ(t.e.lblUnitType, "Metric Measures");
+  EXPECT_EQ(t.volumes(), (std::vector<std::string>{"20.0", "14.0", "Liters", "Metric Measures", "1.072"}));
   EXPECT_EQ(t.wb.recipe.rec.volumeUnits, LITER_CONST);
   EXPECT_EQ(t.wb.recipe.rec.unitType, METRIC_MEASURES);
   EXPECT_EQ(t.e.fermentation.lblTempUnits, "\xB0" "C");
-  EXPECT_EQ(t.e.sheet.lblOG, "1.072");
 
   // And on to British: kilograms and grams back to pounds and ounces, mL to imperial ounces.
   ScaleDialog b;
@@ -97,10 +86,8 @@ TEST(ScaleDialog, MetricSystemConvertsUnitsByTheTables) {
   EXPECT_EQ(b.cboVolume, IMPERIAL_GAL_CONST);
   EXPECT_EQ(b.txtVolume, "4.4");
   ASSERT_TRUE(b.apply(t.e));
-  EXPECT_EQ(t.cell(1, COL_UNITS), "Lbs");
-  EXPECT_EQ(t.cell(1, COL_QTY), "10.6");  // 4.8 * 1.0001 kg in pounds
-  EXPECT_EQ(t.cell(3, COL_UNITS), "Oz");
-  EXPECT_EQ(t.cell(6, COL_UNITS), "Imp Fl Oz");
+  EXPECT_EQ(t.cell(1, COL_UNITS) + t.cell(1, COL_QTY) + " " + t.cell(3, COL_UNITS) + " " + t.cell(6, COL_UNITS),
+            "Lbs10.6 Oz Imp Fl Oz");  // 4.8 * 1.0001 kg in pounds
   EXPECT_EQ(t.e.lblVolumeUnits, "Imp Gallons");
   EXPECT_EQ(t.wb.recipe.rec.unitType, IMPERIAL_MEASURES);
 }
@@ -112,8 +99,7 @@ TEST(ScaleDialog, NoVolumeMeansNoScaling) {
   d.txtVolume = "0";
   EXPECT_FALSE(d.apply(t.e));
   ASSERT_FALSE(t.b.prompter.shown.empty());
-  EXPECT_EQ(t.b.prompter.shown.back().text, "Please enter a Fermentation Volume greater than zero");
-  EXPECT_EQ(t.b.prompter.shown.back().title, "Scale Recipe Quantities");
+  EXPECT_EQ(shownLines(t.b.prompter).back(), "Scale Recipe Quantities: Please enter a Fermentation Volume greater than zero");
   EXPECT_EQ(t.cell(1, COL_QTY), "10.0");
   EXPECT_FALSE(t.e.recipeChanged());
 

@@ -7,6 +7,8 @@
 #include <sstream>
 
 #include "core/dates.h"
+#include "core/measures.h"
+#include "recipes/RecipeStore.h"
 #include "core/text.h"
 
 namespace zy::test {
@@ -86,6 +88,29 @@ RecipeItemRecord makeItem(int kind, const std::string& name, double qty, int uni
   it.detail = detail;
   it.mashFlag = mash;
   return it;
+}
+
+bool storeAmber(Workbench& wb, int no, const std::string& name, const std::string& style,
+                const std::function<void(CurrentRecipe&)>& extra) {
+  newRecipeRecord(wb);
+  CurrentRecipe& cur = wb.recipe;
+  cur.rec.recipeNo = no;
+  cur.rec.recipeName = name;
+  cur.rec.beerStyle = style;
+  cur.rec.volumeUnits = US_GAL_CONST;
+  cur.rec.fermentVolume = cur.rec.boilVolume = 5;
+  cur.rec.mashType = 2;
+  cur.rec.mashEfficiency = 75;
+  cur.items[0] = makeItem(KIND_MALT, "Pale Malt", 8, UNIT_LBS, 1.10, 1.036, 3, -1);
+  cur.items[1] = makeItem(KIND_MALT, "Crystal 60", 1, UNIT_LBS, 1.60, 1.034, 60, 0);
+  cur.items[2] = makeItem(KIND_HOPS, "Cascade", 1, UNIT_OZ, 1.25, 5.5, 60);
+  cur.items[3] = makeItem(KIND_HOPS, "Centennial", 0.5, UNIT_OZ, 1.50, 10.0, 15);
+  cur.items[4] = makeItem(KIND_OTHER, "Irish Moss", 1, 5, 0.35, 0, 0);
+  cur.items[5] = makeItem(KIND_YEAST, "American Ale", 1, 0, 4.99, 0.75, 0);
+  cur.rec.itemCount = 6;
+  cur.comment = "A fine amber.";
+  if (extra) extra(cur);
+  return saveCurrentRecipe(wb);
 }
 
 std::vector<std::string> shownLines(const ScriptedPrompter& p) {

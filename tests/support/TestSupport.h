@@ -72,6 +72,13 @@ struct Bench {
 RecipeItemRecord makeItem(int kind, const std::string& name, double qty, int units = 0, double cost = 0,
                           double rating = 0, double detail = 0, int mash = 0);
 
+// Saves recipe `no` as the tests' amber: 5 US gallons (boil 5), infusion at 75 percent, 8 lbs of
+// mashed pale malt, 1 lb of crystal, 1 oz of Cascade (60 min), 0.5 oz of Centennial (15 min), a
+// teaspoon of Irish moss and a packet of ale yeast, with the comment "A fine amber.". `extra`
+// changes the recipe before the save. False when the save failed.
+bool storeAmber(Workbench& wb, int no, const std::string& name, const std::string& style,
+                const std::function<void(CurrentRecipe&)>& extra = {});
+
 // Every message shown so far as "title: text", in order.
 std::vector<std::string> shownLines(const ScriptedPrompter& p);
 

@@ -1,6 +1,13 @@
 #include "ui/UiSupport.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QGroupBox>
+#include <QImage>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTabBar>
 #include <QTcpSocket>
 #include <QTest>
 #include <QTimer>
@@ -90,6 +97,74 @@ void whenModalOpens(const std::function<void(QWidget*)>& action) {
     }
   });
   timer->start();
+}
+
+namespace {
+
+QChar accessKey(const QString& text) {
+  for (int i = 0; i + 1 < text.size(); ++i) {
+    if (text[i] != '&') continue;
+    if (text[i + 1] == '&') {
+      ++i;
+      continue;
+    }
+    return text[i + 1].toUpper();
+  }
+  return {};
+}
+
+void addClashes(const QString& scope, const QStringList& captions, std::vector<std::string>& out) {
+  QMap<QChar, QStringList> byKey;
+  for (const QString& c : captions)
+    if (QChar k = accessKey(c); !k.isNull()) byKey[k] << c;
+  for (auto it = byKey.cbegin(); it != byKey.cend(); ++it)
+    if (it->size() > 1) out.push_back((scope + ": Alt+" + it.key() + ": " + it->join(" | ")).toStdString());
+}
+
+void addMenuClashes(QMenu* menu, std::vector<std::string>& out) {
+  QStringList entries;
+  for (QAction* a : menu->actions()) {
+    if (a->isSeparator()) continue;
+    entries << a->text();
+    if (a->menu()) addMenuClashes(a->menu(), out);
+  }
+  addClashes(menu->title(), entries, out);
+}
+
+}  // namespace
+
+std::vector<std::string> accessKeyClashes(QWidget* window) {
+  std::vector<std::string> out;
+  auto shown = [window](QWidget* w) { return w->window() == window && w->isVisibleTo(window); };
+  QStringList keys;
+  for (QMenuBar* bar : window->findChildren<QMenuBar*>()) {
+    if (bar->window() != window) continue;
+    for (QAction* a : bar->actions()) {
+      keys << a->text();
+      if (a->menu()) addMenuClashes(a->menu(), out);
+    }
+  }
+  for (QAbstractButton* b : window->findChildren<QAbstractButton*>())
+    if (shown(b)) keys << b->text();
+  for (QGroupBox* g : window->findChildren<QGroupBox*>())
+    if (shown(g)) keys << g->title();
+  for (QLabel* l : window->findChildren<QLabel*>())
+    if (shown(l) && l->buddy()) keys << l->text();
+  for (QTabBar* t : window->findChildren<QTabBar*>())
+    if (shown(t))
+      for (int i = 0; i < t->count(); ++i) keys << t->tabText(i);
+  addClashes(window->objectName(), keys, out);
+  return out;
+}
+
+bool pictureIsNotBlank(const QString& path) {
+  QImage img(path);
+  if (img.isNull()) return false;
+  const QRgb first = img.pixel(0, 0);
+  for (int y = 0; y < img.height(); ++y)
+    for (int x = 0; x < img.width(); ++x)
+      if (img.pixel(x, y) != first) return true;
+  return false;
 }
 
 }  // namespace zy::test

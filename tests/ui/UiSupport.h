@@ -7,6 +7,7 @@
 #include <QTcpServer>
 #include <functional>
 #include <string>
+#include <vector>
 
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -43,5 +44,14 @@ class LocalHttpServer : public QObject {
 void clickItem(QTreeWidget* tree, QTreeWidgetItem* item);
 // Runs `action` as soon as a modal window is open (for the dialogs a menu command opens).
 void whenModalOpens(const std::function<void(QWidget*)>& action);
+
+// The access keys (Alt+letter) of a window that are given twice, one line per clash:
+// "frmMain: Alt+H: &History | &Help". The window's own keys are its menu titles, tab captions,
+// buttons, group boxes and labels with a buddy that are shown in it (of a tab widget, the page in
+// front only); each menu's entries are a set of their own.
+std::vector<std::string> accessKeyClashes(QWidget* window);
+
+// True when `path` holds a picture of more than one colour (written, and not blank).
+bool pictureIsNotBlank(const QString& path);
 
 }  // namespace zy::test

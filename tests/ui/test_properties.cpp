@@ -31,28 +31,30 @@ void type(QLineEdit* e, const QString& text) {
   QTest::keyClicks(e, text);
 }
 
+// The text of each named box or list, "on"/"off" for a check box.
+QStringList shown(frmProperties& w, const QStringList& names) {
+  QStringList out;
+  for (const QString& n : names) {
+    const std::string name = n.toStdString();
+    if (n.startsWith("cbo")) out << w.comboBox(name)->currentText();
+    else if (n.startsWith("chk")) out << (w.checkBox(name)->isChecked() ? "on" : "off");
+    else out << w.field(name)->text();
+  }
+  return out;
+}
+
 TEST(Properties, SevenPagesFilledFromTheDefaults) {
   Bench b;
   frmProperties w(*b.wb);
   ASSERT_EQ(w.tbsOptions->count(), 7);
-  EXPECT_EQ(w.tbsOptions->tabText(0), "User Defaults");
-  EXPECT_EQ(w.tbsOptions->tabText(1), "Unit/Export Defaults");
-  EXPECT_EQ(w.tbsOptions->tabText(6), "Quillmark");
-  EXPECT_EQ(w.field("txtMashEfficiency")->text(), "80");
-  EXPECT_EQ(w.field("txtFermentVolume")->text(), "5.0");
-  EXPECT_EQ(w.field("txtMaltDef(2)")->text(), "$1.00");
-  EXPECT_EQ(w.field("txtMaltDef(3)")->text(), "1.032");
-  EXPECT_EQ(w.field("txtYeastDef(3)")->text(), "72.");  // "0.#" keeps its point
-  EXPECT_EQ(w.field("txtThreshold")->text(), "25");
-  EXPECT_EQ(w.field("txtMashPerLb")->text(), "0.40");
-  EXPECT_EQ(w.comboBox("cboVolumeUnits")->currentText(), "US Gallons");
-  EXPECT_EQ(w.comboBox("cboHopsUnits")->currentText(), "Oz");
-  EXPECT_TRUE(w.checkBox("chkAutoUpdate")->isChecked());
-  EXPECT_TRUE(w.checkBox("chkAutoUpdate")->text() == "Automatically Check for Zythara Updates");
-  // The label rows follow the Quillmark check.
-  EXPECT_FALSE(w.comboBox("cboPosition(0)")->isEnabled());
-  EXPECT_EQ(w.comboBox("cboPosition(0)")->currentText(), "Top");
-  EXPECT_EQ(w.comboBox("cboFontSize(0)")->currentText(), "24");
+  EXPECT_EQ(w.tbsOptions->tabText(1) + "|" + w.tbsOptions->tabText(6), "Unit/Export Defaults|Quillmark");
+  // "0.#" keeps its point.
+  EXPECT_EQ(shown(w, {"txtMashEfficiency", "txtFermentVolume", "txtMaltDef(2)", "txtMaltDef(3)", "txtYeastDef(3)",
+                      "txtThreshold", "txtMashPerLb", "cboVolumeUnits", "cboHopsUnits", "chkAutoUpdate",
+                      "cboPosition(0)", "cboFontSize(0)"}),
+            QStringList({"80", "5.0", "$1.00", "1.032", "72.", "25", "0.40", "US Gallons", "Oz", "on", "Top", "24"}));
+  EXPECT_EQ(w.checkBox("chkAutoUpdate")->text(), "Automatically Check for Zythara Updates");
+  EXPECT_FALSE(w.comboBox("cboPosition(0)")->isEnabled());  // the label rows follow the Quillmark check
 }
 
 TEST(Properties, NumericBoxesFilterKeysAndReformatOnLeaving) {
@@ -106,16 +108,10 @@ TEST(Properties, UnitSystemQuestionAndResets) {
   EXPECT_EQ(b.prompter.shown[0].text,
             "Change the other Measurement Units to match (reset to defaults for the units selected)?");
   EXPECT_EQ(b.prompter.shown[0].title, "Change Units");
-  EXPECT_EQ(units->currentText(), "Metric Measures");
-  EXPECT_EQ(w.comboBox("cboVolumeUnits")->currentText(), "Liters");
-  EXPECT_EQ(w.comboBox("cboMaltUnits")->currentText(), "Kg");
-  EXPECT_EQ(w.comboBox("cboHopsUnits")->currentText(), "Gr");
-  EXPECT_EQ(w.comboBox("cboSpargeUnits")->currentText(), "Liters");
-  EXPECT_EQ(w.field("txtInitialBoilVolume")->text(), "14.0");
-  EXPECT_EQ(w.field("txtFermentVolume")->text(), "20.0");
-  EXPECT_EQ(w.field("txtMaltDef(1)")->text(), "0.45");   // 1 lb in kg
-  EXPECT_EQ(w.field("txtHopsDef(1)")->text(), "28.35");  // 1 oz in grams
-  EXPECT_EQ(w.field("txtMaltIncr(0)")->text(), "0.09");  // 0.2 lb in kg
+  // 1 lb, 1 oz and 0.2 lb in kilograms and grams.
+  EXPECT_EQ(shown(w, {"cboUnitType", "cboVolumeUnits", "cboMaltUnits", "cboHopsUnits", "cboSpargeUnits",
+                      "txtInitialBoilVolume", "txtFermentVolume", "txtMaltDef(1)", "txtHopsDef(1)", "txtMaltIncr(0)"}),
+            QStringList({"Metric Measures", "Liters", "Kg", "Gr", "Liters", "14.0", "20.0", "0.45", "28.35", "0.09"}));
 
   // No leaves the other lists alone.
   b.prompter.answers = {Answer::No};
@@ -130,9 +126,7 @@ TEST(Properties, UnitSystemQuestionAndResets) {
   w.checkBox("chkFullBoil")->click();
   EXPECT_EQ(w.model.check("chkFullBoil"), 1);
   w.cmdResetWater->click();
-  EXPECT_EQ(w.field("txtEvaporationRate")->text(), "15");
-  EXPECT_EQ(w.field("txtKettleCapacity")->text(), "5.00");
-  EXPECT_FALSE(w.checkBox("chkFullBoil")->isChecked());
+  EXPECT_EQ(shown(w, {"txtEvaporationRate", "txtKettleCapacity", "chkFullBoil"}), QStringList({"15", "5.00", "off"}));
 }
 
 TEST(Properties, ApplyRewrites92KeysAndCancelLosesEdits) {

@@ -26,7 +26,9 @@ namespace {
 void save(QWidget& w, const QString& dir, const QString& name) {
   QApplication::processEvents();
   QTest::qWait(50);
-  w.grab().save(QDir(dir).filePath(name + ".png"));
+  const QString path = QDir(dir).filePath(name + ".png");
+  EXPECT_TRUE(w.grab().save(path)) << path.toStdString();
+  EXPECT_TRUE(pictureIsNotBlank(path)) << path.toStdString();
 }
 
 TEST(Screenshots, EveryWindow) {
@@ -49,9 +51,19 @@ TEST(Screenshots, EveryWindow) {
   frmMain w(*b.wb);
   w.quitOnClose = false;
   w.load("");
+  w.showFromSettings();  // the size a first start gives
+  save(w, dir, "main-default");
+  w.resize(w.minimumSize());
+  save(w, dir, "main-minimum");
   w.resize(1000, 680);
-  w.show();
   save(w, dir, "main");
+  // A topic with pictures beside its text.
+  for (int i = 0; i < w.tvwTopics[TreeAllTopics]->topLevelItemCount(); ++i)
+    if (w.browser().trees[TreeAllTopics][static_cast<size_t>(i)].icon == TopicIcon::Photo) {
+      clickItem(w.tvwTopics[TreeAllTopics], w.tvwTopics[TreeAllTopics]->topLevelItem(i));
+      break;
+    }
+  save(w, dir, "main-picture");
   if (w.tvwTopics[TreeAllTopics]->topLevelItemCount() > 2) {
     clickItem(w.tvwTopics[TreeAllTopics], w.tvwTopics[TreeAllTopics]->topLevelItem(2));
   }
