@@ -21,12 +21,14 @@ namespace {
 const char* const kNA = "N/A";
 const char* const kLogError = "Batch Log Error";
 
+// A damaged record's field that holds no number at all shows as none.
+double sound(double v) { return std::isfinite(v) ? v : 0; }
 // Volumes and weights when a log is opened: a zero shows as a blank.
-std::string volumeText(double v) { return formatNumber(v, "0.0#; ; "); }
+std::string volumeText(double v) { return formatNumber(sound(v), "0.0#; ; "); }
 // Gravities when a log is opened, in the hydrometer's three decimals; no reading shows blank.
-std::string gravityText(double v) { return v != 0 ? formatNumber(v, "0.000") : std::string(); }
+std::string gravityText(double v) { return sound(v) != 0 ? formatNumber(v, "0.000") : std::string(); }
 // Temperatures and the boil time as typed numbers; none shows blank.
-std::string plainNumber(double v) { return v != 0 ? plainText(v) : std::string(); }
+std::string plainNumber(double v) { return sound(v) != 0 ? plainText(v) : std::string(); }
 
 int indexOf(const auto& names, const std::string& name) {
   for (size_t i = 0; i < names.size(); ++i)
@@ -124,8 +126,8 @@ void BatchLogEditor::showLog(const BatchLogRecord& rec) {
   cboLogStatus = std::clamp(rec.status, 0, 4);
   lvMash.clear();
   for (int i = 0; i < kLogMashSlots; ++i)
-    if (rec.mashTime[i] > 0 && static_cast<int>(lvMash.size()) < kLogMashSlots)
-      addMashEntry(rec.mashTime[i], rec.mashTemp[i], rec.mashInfusion[i]);
+    if (rec.mashTime[i] > 0 && std::isfinite(rec.mashTime[i]))
+      addMashEntry(rec.mashTime[i], sound(rec.mashTemp[i]), sound(rec.mashInfusion[i]));
   txtSpargeVol = volumeText(rec.spargeVolume);
   txtSpargeTemp = plainNumber(rec.spargeTemp);
   txtBoilVol = volumeText(rec.boilVolume);

@@ -2,6 +2,8 @@
 // check, the status rules, the limits of the two lists, number and date entry, and closing.
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "batchlog/BatchLogEditor.h"
 #include "core/dates.h"
 #include "core/measures.h"
@@ -178,6 +180,24 @@ TEST_F(Editor, ListLimitsDatesAndTheChangedState) {
   ed.setCondition("Priming");
   EXPECT_EQ(ed.saveButtonImage, "Save-Changed");
   EXPECT_EQ(ed.saveButtonTip, "Save Batch Log - Changed");
+}
+
+TEST_F(Editor, DamagedNumbersInARecordOpenAsNone) {
+  BatchLogRecord r;
+  r.recipeNo = 1;
+  r.mashGravity = std::nan("");
+  r.fermentVolume = HUGE_VAL;
+  r.mashTime[0] = std::nan(""), r.mashTime[1] = 30, r.mashTemp[1] = std::nan("");
+  r.status = 9, r.readingCount = 40, r.containerUnits = {12, -7};
+  ed.showLog(r);
+  EXPECT_EQ(ed.txtMashGravity, "");
+  EXPECT_EQ(ed.txtFermVol, "");
+  ASSERT_EQ(ed.lvMash.size(), 1u);
+  EXPECT_EQ(ed.lvMash[0].temp, "0");
+  EXPECT_EQ(ed.cboLogStatus, LOG_BOTTLED);
+  EXPECT_EQ(ed.lvReading.size(), 16u);
+  EXPECT_EQ(ed.cboContainerUnits, (std::array<int, 2>{-1, -1}));
+  EXPECT_EQ(ed.lblQualPts, "N/A");
 }
 
 TEST(BatchLogSettings, PlaceKeptInItsSectionAndCentredWithoutOne) {
