@@ -8,6 +8,7 @@
 #include "ui/frmHopsUtilization.h"
 #include "ui/frmStyleMatch.h"
 #include "ui/frmUnitMashData.h"
+#include "ui/frmBatchLogList.h"
 #include "ui/frmComments.h"
 #include "ui/frmFermentation.h"
 #include "ui/frmHelp.h"
@@ -81,6 +82,7 @@ frmRecipe& ProgramWindows::recipe() {
     r.setToolOpener(RecipeTool::BeerStyles, [this] {
       showBeerStyles(recipe_->editor().cboBeerStyleText);
     });
+    r.setToolOpener(RecipeTool::BatchLog, [this] { showBatchLogList(); });
     // A change in the fermentation window shows on the editor's save button.
     FermentationForm& f = r.editor().fermentation;
     f.onChanged = [&r] {
@@ -98,6 +100,7 @@ frmRecipe& ProgramWindows::recipe() {
       if (comments_) comments_->close();
       if (styleMatch_) styleMatch_->close();
       if (unitMashData_) unitMashData_->close();
+      if (batchLogList_) batchLogList_->close();
     });
   }
   return *recipe_;
@@ -265,6 +268,19 @@ void ProgramWindows::showInvCheck() {
   bringForward(w);
 }
 
+frmBatchLogList& ProgramWindows::batchLogList() {
+  if (!batchLogList_) {
+    batchLogList_ = new frmBatchLogList(wb_, recipe().editor(), &recipe());
+    batchLogList_->showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
+  }
+  return *batchLogList_;
+}
+
+void ProgramWindows::showBatchLogList() {
+  frmBatchLogList& l = batchLogList();
+  if (l.loadForOpenRecipe()) bringForward(l);
+}
+
 void ProgramWindows::showRecipeList() { bringForward(recipeList()); }
 
 void ProgramWindows::showRecipe() {
@@ -301,6 +317,7 @@ void ProgramWindows::closeAll() {
   if (invCheck_) invCheck_->close();
   if (inventory_) inventory_->close();
   if (shoppingList_) shoppingList_->close();
+  if (batchLogList_) batchLogList_->close();
   if (comments_) comments_->close();
   if (fermentation_) fermentation_->close();
   if (scale_) scale_->close();

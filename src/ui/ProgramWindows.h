@@ -24,6 +24,7 @@ class frmBeerStyles;
 class frmInventory;
 class frmShoppingLst;
 class frmInvCheck;
+class frmBatchLogList;
 
 class ProgramWindows : public QObject {
   Q_OBJECT
@@ -46,6 +47,7 @@ class ProgramWindows : public QObject {
   frmInventory& inventory();
   frmShoppingLst& shoppingList();
   frmInvCheck& invCheck();
+  frmBatchLogList& batchLogList();
 
   // What the menus and buttons do.
   void showRecipeList();
@@ -67,6 +69,8 @@ class ProgramWindows : public QObject {
   // The editor's whole recipe goes to the shopping list, which comes forward.
   void addRecipeToShoppingList();
   void showInvCheck();
+  // The logs of the open recipe (once it has been saved).
+  void showBatchLogList();
   // Closes every window that was created (they close for good while appClosing is set).
   void closeAll();
 
@@ -92,6 +96,7 @@ class ProgramWindows : public QObject {
   std::unique_ptr<frmInventory> inventory_;
   std::unique_ptr<frmShoppingLst> shoppingList_;
   std::unique_ptr<frmInvCheck> invCheck_;
+  QPointer<frmBatchLogList> batchLogList_;
 };
 
 }  // namespace zy
