@@ -2,7 +2,7 @@
 BUILD ?= build
 JOBS ?= $(shell nproc)
 
-.PHONY: all deps configure build run test bench clean
+.PHONY: all deps configure build run test bench clean fuzz fuzz-deps sanitize
 
 all: build
 
@@ -23,6 +23,35 @@ test: build
 
 bench: build
 	for b in $(BUILD)/bench/*; do echo "== $$b"; $$b; done
+
+# Sanitizers: the whole test suite built with ASan and UBSan in a folder of its own.
+SAN_BUILD ?= build-sanitize
+sanitize: deps
+	cmake -S . -B $(SAN_BUILD) -DCMAKE_BUILD_TYPE=Debug -DZY_SANITIZE=ON
+	cmake --build $(SAN_BUILD) -j$(JOBS)
+	cd $(SAN_BUILD) && QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=detect_leaks=0 \
+	  UBSAN_OPTIONS=print_stacktrace=1 ctest --output-on-failure -j$(JOBS)
+
+# Fuzzing: each harness of tests/fuzz built with clang's libFuzzer (ASan, UBSan) and run for
+# FUZZ_SECONDS, one at a time. New inputs go to $(FUZZ_BUILD)/corpus; the checked-in corpus is
+# read only. A failing input is left as $(FUZZ_BUILD)/artifacts/NAME-crash-...: copy it into
+# tests/fuzz/corpus/NAME/ once fixed, so that the replay test keeps it.
+FUZZ_BUILD ?= build-fuzz
+FUZZ_SECONDS ?= 60
+FUZZ_NAMES = $(patsubst tests/fuzz/fuzz_%.cpp,%,$(wildcard tests/fuzz/fuzz_*.cpp))
+fuzz-deps: deps
+	@command -v clang++ >/dev/null && [ -n "$$(ls /usr/lib/llvm-*/lib/clang/*/lib/linux/libclang_rt.fuzzer-x86_64.a 2>/dev/null)" ] || \
+	  { run="env DEBIAN_FRONTEND=noninteractive"; [ "$$(id -u)" -ne 0 ] && run="sudo $$run"; \
+	    $$run apt-get update -qq && $$run apt-get install -y -qq --no-install-recommends clang; }
+fuzz: fuzz-deps
+	cmake -S . -B $(FUZZ_BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ -DZY_FUZZ=ON
+	cmake --build $(FUZZ_BUILD) -j$(JOBS) --target $(addprefix fuzz_,$(FUZZ_NAMES))
+	@mkdir -p $(FUZZ_BUILD)/artifacts
+	@set -e; for n in $(FUZZ_NAMES); do \
+	  echo "== fuzz_$$n for $(FUZZ_SECONDS) s"; mkdir -p $(FUZZ_BUILD)/corpus/$$n; \
+	  $(FUZZ_BUILD)/fuzz/fuzz_$$n -max_total_time=$(FUZZ_SECONDS) -timeout=5 -rss_limit_mb=2048 \
+	    -artifact_prefix=$(FUZZ_BUILD)/artifacts/$$n- $(FUZZ_BUILD)/corpus/$$n tests/fuzz/corpus/$$n; \
+	done
 
 clean:
 	rm -rf $(BUILD)

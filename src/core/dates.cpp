@@ -92,7 +92,13 @@ std::string formatDate(double serial, std::string_view p) {
     auto at = [&](std::string_view tok) { return p.substr(i, tok.size()) == tok; };
     int hour = c.hour;
     if (twelveHour) { hour = c.hour % 12; if (hour == 0) hour = 12; }
-    if (at("yyyy")) { out += std::to_string(c.year); i += 4; lastWasHour = false; }
+    if (at("yyyy")) {  // always four digits, so that a year below 1000 reads back (0999)
+      char b[16];
+      std::snprintf(b, sizeof b, "%04d", c.year);
+      out += b;
+      i += 4;
+      lastWasHour = false;
+    }
     else if (at("yy")) { out += two(c.year % 100); i += 2; lastWasHour = false; }
     else if (at("mmmm")) { out += kMonthNames[c.month - 1]; i += 4; lastWasHour = false; }
     else if (at("mmm")) { out += std::string(kMonthNames[c.month - 1]).substr(0, 3); i += 3; lastWasHour = false; }

@@ -11,6 +11,8 @@ namespace zy {
 FileSettingsStore::FileSettingsStore(std::string path) : path_(std::move(path)) { load(); }
 
 namespace {
+const std::string kWhite(" \t\r\n\0", 5);
+
 // In the file a value keeps its line breaks and backslashes escaped, as \n, \r and \\.
 std::string escapeValue(const std::string& v) {
   std::string out;
@@ -55,7 +57,9 @@ void FileSettingsStore::load() {
   std::string section;
   for (std::string lineText : split(all, '\n')) {
     if (!lineText.empty() && lineText.back() == '\r') lineText.pop_back();
-    size_t first = lineText.find_first_not_of(" \t");
+    // The line start skips the same white space as the trimming of a key does (blanks, tabs,
+    // stray carriage returns and zero bytes), so that a "[" behind such a byte is still a head.
+    size_t first = lineText.find_first_not_of(kWhite);
     if (first == std::string::npos || lineText[first] == ';' || lineText[first] == '#') continue;
     if (lineText[first] == '[') {
       size_t e = lineText.find(']', first);
@@ -91,7 +95,26 @@ std::string FileSettingsStore::read(const std::string& section, const std::strin
   return fallback;
 }
 
+std::string FileSettingsStore::refusal(const std::string& section, const std::string& key) {
+  const std::string where = "\"" + key + "\" of section \"" + section + "\"";
+  if (trim(section).empty() || trim(section) != section || section.find_first_of("]\n") != std::string::npos)
+    return "The section name \"" + section +
+           "\" cannot be kept in the settings file: it must not be empty, begin or end with a blank, nor hold "
+           "\"]\" or a line break.";
+  const std::string k = trimWhite(key);
+  if (k.empty() || k != key) return "The key " + where + " cannot be kept in the settings file: a key must not be empty "
+                                     "nor begin or end with blanks, tabs, line breaks or zero bytes.";
+  if (k[0] == '[' || k[0] == ';' || k[0] == '#')
+    return "The key " + where + " cannot be kept in the settings file: a key beginning with \"" + k.substr(0, 1) +
+           "\" would be read back as a section head or a comment.";
+  if (k.find_first_of("=\n") != std::string::npos)
+    return "The key " + where + " cannot be kept in the settings file: a key must not hold \"=\" or a line break.";
+  return {};
+}
+
 void FileSettingsStore::write(const std::string& section, const std::string& key, const std::string& value) {
+  // A key the file cannot hold would change its meaning on the next read: it is not written.
+  if (!refusal(section, key).empty()) return;
   bool done = false;
   for (auto& [sec, keys] : data_) {
     if (!iequals(sec, section)) continue;
@@ -119,7 +142,8 @@ void FileSettingsStore::save() const {
   std::string text;
   for (const auto& [sec, keys] : data_) {
     text += "[" + sec + "]\n";
-    for (const auto& [k, v] : keys) text += k + "=" + escapeValue(v) + "\n";
+    for (const auto& [k, v] : keys)
+      if (refusal(sec, k).empty()) text += k + "=" + escapeValue(v) + "\n";
     text += "\n";
   }
   std::FILE* f = std::fopen(tmp.c_str(), "wb");

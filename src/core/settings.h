@@ -24,7 +24,10 @@ class FileSettingsStore : public SettingsStore {
  public:
   explicit FileSettingsStore(std::string path);
   std::string read(const std::string& section, const std::string& key, const std::string& fallback) const override;
+  // A key that a later read would take for something else (a section head, a comment, a value) is
+  // refused: write() then stores nothing. refusal() gives the reason, empty when the key can be kept.
   void write(const std::string& section, const std::string& key, const std::string& value) override;
+  static std::string refusal(const std::string& section, const std::string& key);
   const std::string& path() const { return path_; }
   // Holds writes in memory until the matching end (the Apply of many keys at once).
   void beginBatch() { ++batch_; }

@@ -146,6 +146,24 @@ const std::string kCrLf = "\r\n";
 
 std::string q(const std::string& v) { return "\"" + v + "\""; }
 
+// name="value" as one field. Double quotes inside a plain field are plain characters, and the
+// reader drops the first and last character of the value; but a comma or a line break would end
+// the field there, so a value holding one is written as a quoted field, "name=""value""", which
+// runs to its closing quote whatever it holds (as the comment block does).
+std::string attr(const std::string& name, const std::string& value) {
+  std::string field = name + "=" + q(value);
+  if (value.find_first_of(",\r\n") == std::string::npos) return field;
+  return q(replaceAll(field, "\"", "\"\""));
+}
+
+// The name of a unit code; a code outside its list is read as the default unit, so it is
+// written as that unit's name.
+const std::string& unitName(const StringList& list, int code, int defaultCode) {
+  const int n = static_cast<int>(list.size());
+  if (code >= 0 && code < n) return list[static_cast<size_t>(code)];
+  return listText(list, defaultCode >= 0 && defaultCode < n ? defaultCode : 0);
+}
+
 // The number in its general form, as Str$ gives it without the leading blank.
 std::string general(double v) { return plainText(v); }
 
@@ -184,16 +202,17 @@ std::string exportRecipeText(Workbench& wb) {
   auto line = [&](const std::string& s) { out += s + kCrLf; };
   line("<Recipe_Format_1.0>");
 
-  std::string recipe = "<Recipe> Type=" + q(listText(m.recipeTypes, r.recipeType)) + ", Name=" + q(r.recipeName) +
-                       ", BoilTime=" + formatNumber(r.boilTime, "0");
-  if (!r.dateCreated.empty()) recipe += ", Date=" + q(r.dateCreated);
-  if (!r.idCode.empty()) recipe += ", Code=" + q(r.idCode);
-  if (!r.labelName.empty()) recipe += ", Label=" + q(r.labelName);
-  if (!r.beerStyle.empty()) recipe += ", Style=" + q(r.beerStyle);
+  // The date is written also when empty, so that a recipe without one does not come back dated
+  // today.
+  std::string recipe = "<Recipe> Type=" + q(listText(m.recipeTypes, r.recipeType)) + ", " + attr("Name", r.recipeName) +
+                       ", BoilTime=" + formatNumber(r.boilTime, "0") + ", " + attr("Date", r.dateCreated);
+  if (!r.idCode.empty()) recipe += ", " + attr("Code", r.idCode);
+  if (!r.labelName.empty()) recipe += ", " + attr("Label", r.labelName);
+  if (!r.beerStyle.empty()) recipe += ", " + attr("Style", r.beerStyle);
   line(recipe);
 
   line("<Volume> Initial=" + formatNumber(r.boilVolume, "0.0") + ", Final=" + formatNumber(r.fermentVolume, "0.0") +
-       ", Units=" + q(listText(m.volumeUnits, r.volumeUnits)));
+       ", Units=" + q(unitName(m.volumeUnits, r.volumeUnits, wb.defaults.volumeUnits)));
   line("<Color> Value=" + formatNumber(r.color, "0") + ", Units=\"Lovi\"");
   line("<Bitterness> Value=" + itos(r.bitterness) + ", Units=\"IBU\"");
   line("<Gravity> Original=" + formatNumber(r.originalGravity, "0.000") +
@@ -202,28 +221,36 @@ std::string exportRecipeText(Workbench& wb) {
   const int count = std::max(0, std::min(r.itemCount, kMaxRecipeItems));
   for (int k = 0; k < count; ++k) {
     const RecipeItemRecord& it = cur.items[static_cast<size_t>(k)];
-    const std::string type = q(escapeCommas(trim(it.itemName)));
+    // The name is the first attribute, behind the tag; a name that needs a quoted field stands
+    // apart from its tag.
+    const std::string type = attr("Type", escapeCommas(trim(it.itemName)));
+    const std::string sep = type[0] == '"' ? ", " : " ";
     const std::string qty = formatNumber(it.quantity, "0.0#");
+    const Defaults& d = wb.defaults;
     std::string s;
     switch (it.itemKind) {
       case KIND_MALT:
-        s = "<Malt> Type=" + type + ", Quantity=" + qty + ", Units=" + q(listText(m.weightUnits, it.quantityUnits)) +
+        s = "<Malt>" + sep + type + ", Quantity=" + qty + ", Units=" + q(unitName(m.weightUnits, it.quantityUnits, d.maltUnits)) +
             ", Extraction=" + formatNumber(it.rating, "0.000") + ", Mash=" + q(it.mashFlag != 0 ? "Yes" : "No") +
             ", Color=" + formatNumber(it.detail, "0");
         break;
       case KIND_HOPS:
-        s = "<Hops> Type=" + type + ", Quantity=" + qty + ", Units=" + q(listText(m.weightUnits, it.quantityUnits)) +
+        s = "<Hops>" + sep + type + ", Quantity=" + qty + ", Units=" + q(unitName(m.weightUnits, it.quantityUnits, d.hopsUnits)) +
             ", Alpha=" + formatNumber(it.rating, "0.0") + ", BoilTime=" + formatNumber(it.detail, "0");
         break;
       case KIND_OTHER:
-        s = "<Other> Type=" + type + ", Quantity=" + qty + ", Units=" + q(listText(m.otherUnits, it.quantityUnits));
+        s = "<Other>" + sep + type + ", Quantity=" + qty + ", Units=" + q(unitName(m.otherUnits, it.quantityUnits, d.otherUnits));
         break;
       case KIND_YEAST:
-        s = "<Yeast> Type=" + type + ", Quantity=" + qty + ", Units=" + q(listText(m.yeastUnits, it.quantityUnits)) +
+        s = "<Yeast>" + sep + type + ", Quantity=" + qty + ", Units=" + q(unitName(m.yeastUnits, it.quantityUnits, d.yeastUnits)) +
             ", Attenuation=" + formatNumber(it.rating * 100, "0");
         break;
       default:
-        continue;  // a kind the format has no tag for
+        // A kind the format has no tag for cannot travel; the brewer hears which item stays behind.
+        wb.prompter.message("Item " + itos(k + 1) + " (" + trim(it.itemName) + ") has the unknown kind " +
+                                itos(it.itemKind) + " and was not written to the export file",
+                            kApplicationName, Icon::Warning);
+        continue;
     }
     if (wb.defaults.includeCost == 1 && it.unitCost > 0) s += ", UnitCost=" + formatNumber(it.unitCost, "0.00");
     line(s);
@@ -240,23 +267,23 @@ std::string exportRecipeText(Workbench& wb) {
       std::string s = "<Mash> Index=" + itos(static_cast<long long>(k)) + ", Temp=" + general(r.mashStepTemp[k]) +
                       ", Time=" + general(r.mashStepTime[k]);
       std::string c = trim(r.mashStepComment[k]);
-      if (!c.empty()) s += ", Comments=" + q(withCedilla(c));
+      if (!c.empty()) s += ", " + attr("Comments", withCedilla(c));
       line(s);
     }
     line("<Sparge> Volume=" + formatNumber(r.spargeVolume, "0.0") + ", Units=" +
-         q(listText(m.volumeUnits, r.volumeUnits)) + ", Temp=" + general(r.spargeTemp) +
+         q(unitName(m.volumeUnits, r.volumeUnits, wb.defaults.volumeUnits)) + ", Temp=" + general(r.spargeTemp) +
          ", Rate=" + formatNumber(r.spargeRate, "0.00;\\0\\.\\4\\0;\\0\\.\\4\\0"));
   }
   for (size_t i = 0; i < 3; ++i) {
     if (!(r.fermentTime[i] > 0)) continue;
     line("<Fermentation> " + m.fermentStages[i] + "=" + general(r.fermentTime[i]) +
-         ", Units=" + q(listText(m.timeUnits, r.fermentTimeUnits[i])) + ", Temp=" + general(r.fermentTemp[i]) +
+         ", Units=" + q(unitName(m.timeUnits, r.fermentTimeUnits[i], 0)) + ", Temp=" + general(r.fermentTemp[i]) +
          ", Vessel=" + q(listText(m.vessels, r.fermentVessel[i])));
   }
   line("<Priming> Container=" + q(containerName(r.container)) + ", Carbonation=" + q(carbonationName(r.carbonation)) +
-       ", Comments=" + q(withCedilla(r.primingComment)));
+       ", " + attr("Comments", withCedilla(r.primingComment)));
   if (r.agingCount > 0) {
-    std::string s = "<Aging> Count=" + formatNumber(r.agingCount, "0") + ", Units=" + q(listText(m.timeUnits, r.agingUnits));
+    std::string s = "<Aging> Count=" + formatNumber(r.agingCount, "0") + ", Units=" + q(unitName(m.timeUnits, r.agingUnits, 0));
     if (r.agingTemp > 0) s += ", Temp=" + formatNumber(r.agingTemp, "0");
     line(s);
   }
@@ -527,7 +554,7 @@ struct Reader {
         std::string name, value;
         size_t eq = attribute.find('=');
         if (eq != std::string::npos) {
-          name = trim(attribute.substr(0, eq));
+          name = attribute.substr(0, eq);  // names compare exactly: "Style " is not "Style"
           value = trim(attribute.substr(eq + 1));
           if (!value.empty() && value[0] == '"') value = value.size() >= 2 ? value.substr(1, value.size() - 2) : "";
           value = replaceAll(value, "~", ",");

@@ -118,19 +118,25 @@ bool saveCurrentRecipe(Workbench& wb) {
   rec.controlEnd = kControlEnd;
   const int no = rec.recipeNo;
   if (no < 1) {
+    rec.commentCount = oldCommentCount;
     wb.errors.reportError(ERR_BAD_RECORD_NUMBER, no, kSaveFn, wb.folder.dataFile(kRecipeFile), "Bad record number");
+    return false;
+  }
+  // The count of comment pieces is kept in 16 bits: a longer comment would wrap it negative and be
+  // lost on the next load. Refused before anything is written.
+  if (commentLength > kMaxCommentLength) {
+    rec.commentCount = oldCommentCount;
+    wb.prompter.message("The comment of this recipe holds " + itos(static_cast<long long>(commentLength)) +
+                            " characters, more than the " + itos(static_cast<long long>(kMaxCommentLength)) +
+                            " a recipe can keep. Shorten the comment and save again; nothing was saved.",
+                        "Zythara Recipes", Icon::Warning);
     return false;
   }
   long line = 0;
   try {
-    {
-      RecordFile f(wb.folder.dataFile(kRecipeFile), RecipeRecord::kLength);
-      // A record number more than one past the end leaves no gap: the file is padded with free slots.
-      std::string freeSlot = RecipeRecord{}.encode();
-      for (long k = f.count() + 1; k < no; ++k) f.write(k, freeSlot);
-      f.write(no, rec.encode());
-      f.flush();
-    }
+    // The items and comment pieces are written first, the recipe record last: until that record
+    // is written the recipe does not exist, so an interrupted save of a new recipe leaves only
+    // records that hang on a free slot, and the next save there takes them over.
     {
       RecordFile f(wb.folder.dataFile(kRecipeItemsFile), RecipeItemRecord::kLength);
       const int count = std::max(0, std::min(rec.itemCount, kMaxRecipeItems));
@@ -154,6 +160,14 @@ bool saveCurrentRecipe(Workbench& wb) {
         ++rec.commentCount;
         return c.encode();
       });
+    }
+    {
+      RecordFile f(wb.folder.dataFile(kRecipeFile), RecipeRecord::kLength);
+      // A record number more than one past the end leaves no gap: the file is padded with free slots.
+      std::string freeSlot = RecipeRecord{}.encode();
+      for (long k = f.count() + 1; k < no; ++k) f.write(k, freeSlot);
+      f.write(no, rec.encode());
+      f.flush();
     }
   } catch (const FileError& e) {
     wb.errors.reportFileError(e, line, kSaveFn);

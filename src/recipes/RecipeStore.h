@@ -23,8 +23,10 @@ void newRecipeRecord(Workbench& wb);
 constexpr long kMaxRecipeNo = 32767;
 long findNextRecipeSlot(Workbench& wb);
 
-// Writes the current recipe at record recipeNo and rewrites its items and comment pieces,
-// reusing free records from the front. False when an error stopped it.
+// Writes the current recipe's items and comment pieces, reusing free records from the front, and
+// then its record at recipeNo. False when an error stopped it, or when the comment is longer than
+// kMaxCommentLength (said so, nothing written).
+constexpr size_t kMaxCommentLength = 32767 * 120;
 bool saveCurrentRecipe(Workbench& wb);
 
 // Fills the current recipe from record recipeNo, its items and its comment. False when an error

@@ -5,7 +5,11 @@
 #include <filesystem>
 
 #include "core/dates.h"
+#include "core/records.h"
 #include "core/text.h"
+#include "recipes/RecipeRecords.h"
+#include "styles/StyleTables.h"
+#include "batchlog/BatchLogCount.h"
 
 namespace fs = std::filesystem;
 
@@ -22,6 +26,7 @@ const char* const kBackupPathKey = "Backup Path";
 const char* const kBackupTitle = "Backup All Zythara Databases";
 const char* const kBackupAskTitle = "Backup Zythara Databases";
 const char* const kRestoreTitle = "Restore All Zythara Databases";
+const char* const kRestoreDoneTitle = "Restore Zythara Databases";
 const char* const kBackupFn = "frmMain!mnuFileBackupDB_Click";
 const char* const kRestoreFn = "frmMain!mnuFileRestoreDB_Click";
 
@@ -66,6 +71,74 @@ bool copyAll(Workbench& wb, const std::string& fromDir, const std::string& toDir
   return true;
 }
 
+// A folder that exists and takes a new file.
+bool writableFolder(const std::string& folder) {
+  if (!folderExists(folder)) return false;
+  const std::string probe = ProgramFolder::join(folder, ".zythara-write-test");
+  std::FILE* f = std::fopen(probe.c_str(), "wb");
+  if (!f) return false;
+  std::fclose(f);
+  std::error_code ec;
+  fs::remove(probe, ec);
+  return true;
+}
+
+bool isRootFolder(const std::string& path) {
+  std::string p = trim(path);
+  if (p.empty()) return true;
+  std::error_code ec;
+  fs::path c = fs::weakly_canonical(fs::path(p), ec);
+  if (!ec) p = c.string();
+  return p.find_first_not_of('/') == std::string::npos;
+}
+
+// Remembers the folder of a backup or restore, never the root of the file system.
+void rememberFolder(Workbench& wb, const std::string& chosen) {
+  const std::string keep = backupPathToStore(chosen);
+  if (!isRootFolder(keep)) wb.settings.write(kSection, kBackupPathKey, keep);
+}
+
+// Why a file of a backup cannot be restored; empty when it is sound. The recipe, style and batch
+// log files are whole fixed records that begin with 200 and end with 299; an inventory file is a
+// header beginning with 200, then item records (200 ... 299) each followed by its comment.
+std::string fileDamage(const std::string& path, const char* name) {
+  std::FILE* f = std::fopen(path.c_str(), "rb");
+  if (!f) return "it cannot be read";
+  std::string all;
+  char buf[65536];
+  size_t n;
+  while ((n = std::fread(buf, 1, sizeof buf, f)) > 0) all.append(buf, n);
+  std::fclose(f);
+  if (all.empty()) return {};  // a file not created yet is empty to the program
+  const std::string_view v(all);
+  struct Fixed { const char* name; size_t len; };
+  for (Fixed x : {Fixed{kRecipeFile, RecipeRecord::kLength}, Fixed{kRecipeItemsFile, RecipeItemRecord::kLength},
+                  Fixed{kCommentFile, RecipeCommentRecord::kLength}, Fixed{kCategoryFile, kCategoryRecordLength},
+                  Fixed{kStyleFile, kStyleRecordLength}, Fixed{kBatchLogFile, kBatchLogRecordLength}}) {
+    if (std::string(x.name) != name) continue;
+    if (all.size() % x.len != 0) return "its last record is not whole";
+    for (size_t r = 0; r < all.size() / x.len; ++r)
+      if (!controlCodesValid(v.substr(r * x.len, x.len)))
+        return "record " + itos(static_cast<long long>(r + 1)) + " has invalid control codes";
+    return {};
+  }
+  // An inventory file.
+  const std::string nm(name);
+  const size_t itemLen = nm == kInvMaltFile ? 200 : (nm == kInvHopsFile || nm == kInvYeastFile) ? 174 : 170;
+  if (all.size() < 74 || getI16(v, 0) != kControlStart) return "its header is not an inventory header";
+  size_t at = 74;
+  for (long item = 1; at < all.size(); ++item) {
+    if (all.size() - at < itemLen + 2 || !controlCodesValid(v.substr(at, itemLen)))
+      return "item " + itos(item) + " is not a whole record with valid control codes";
+    const int comment = getI16(v, at + itemLen);
+    at += itemLen + 2;
+    if (comment < 0 || all.size() - at < static_cast<size_t>(comment))
+      return "the comment of item " + itos(item) + " is not whole";
+    at += static_cast<size_t>(comment);
+  }
+  return {};
+}
+
 std::optional<std::string> pickFolder(Workbench& wb, const FolderPicker& pick, const std::string& title,
                                       const std::string& initial) {
   if (pick) return pick(title, initial);
@@ -87,11 +160,21 @@ std::string backupPathToStore(const std::string& chosen) {
 }
 
 BackupOutcome backupAllDatabases(Workbench& wb, const FolderPicker& pick) {
-  // 1. The folder of the last backup (created when missing) and in it today's folder.
+  // 1. The folder of the last backup (created when missing) and in it today's folder. When that
+  // cannot be made, the program folder's Backups is proposed instead, and the brewer told why.
+  const std::string day = formatDate(wb.clock.today(), "yyyy-mm-dd");
   const std::string base = backupPath(wb);
   makeFolders(base);
-  const std::string dated = ProgramFolder::join(base, formatDate(wb.clock.today(), "yyyy-mm-dd"));
+  std::string dated = ProgramFolder::join(base, day);
   makeFolders(dated);
+  if (!writableFolder(dated)) {
+    const std::string fallback = ProgramFolder::join(ProgramFolder::join(wb.folder.root(), kBackupsFolder), day);
+    makeFolders(fallback);
+    wb.prompter.message("The backup folder " + dated + " cannot be created or written to; " + fallback +
+                            " is proposed instead.",
+                        kBackupAskTitle, Icon::Warning);
+    dated = fallback;
+  }
 
   // 2. The user confirms or changes it.
   std::optional<std::string> chosen = pickFolder(wb, pick, kBackupTitle, dated);
@@ -105,7 +188,7 @@ BackupOutcome backupAllDatabases(Workbench& wb, const FolderPicker& pick) {
   }
 
   // 4. Remember the folder.
-  wb.settings.write(kSection, kBackupPathKey, backupPathToStore(folder));
+  rememberFolder(wb, folder);
 
   // 5. An earlier backup in the same folder is overwritten only on request.
   if (fileExists(ProgramFolder::join(folder, kRecipeFile))) {
@@ -125,13 +208,20 @@ BackupOutcome backupAllDatabases(Workbench& wb, const FolderPicker& pick) {
 }
 
 BackupOutcome restoreAllDatabases(Workbench& wb, const FolderPicker& pick) {
+  const std::string backups = ProgramFolder::join(wb.folder.root(), kBackupsFolder);
   std::string start = backupPath(wb);
-  if (!folderExists(start)) start = ProgramFolder::join(wb.folder.root(), kBackupsFolder);
+  if (!folderExists(start)) {
+    makeFolders(backups);
+    if (start != backups)
+      wb.prompter.message("The backup folder " + start + " no longer exists; " + backups + " is proposed instead.",
+                          kRestoreDoneTitle, Icon::Warning);
+    start = backups;
+  }
   std::optional<std::string> chosen = pickFolder(wb, pick, kRestoreTitle, start);
   if (!chosen || trim(*chosen).empty()) return BackupOutcome::Cancelled;
   const std::string folder = *chosen;
 
-  wb.settings.write(kSection, kBackupPathKey, backupPathToStore(folder));
+  rememberFolder(wb, folder);
 
   if (!fileExists(ProgramFolder::join(folder, kRecipeFile))) {
     wb.prompter.message("No Backup Files in this Folder, Be Sure to Double-Click the Desired Folder", kRestoreTitle,
@@ -139,11 +229,37 @@ BackupOutcome restoreAllDatabases(Workbench& wb, const FolderPicker& pick) {
     return BackupOutcome::Refused;
   }
 
+  // Nothing is overwritten unless the folder holds the whole backup, every file of it sound.
+  for (const char* name : kBackupFiles) {
+    const std::string path = ProgramFolder::join(folder, name);
+    std::string why = fileExists(path) ? fileDamage(path, name) : std::string("it is missing");
+    if (!why.empty()) {
+      wb.prompter.message("The backup file " + path + " cannot be restored: " + why +
+                              ". Nothing was restored; your data files are as they were.",
+                          kRestoreDoneTitle, Icon::Warning);
+      return BackupOutcome::Refused;
+    }
+  }
+
+  // The data files as they are now go to a dated folder first, so that any restore can be undone.
+  std::string before = ProgramFolder::join(backups, "Before Restore " + formatDate(wb.clock.now(), "yyyy-mm-dd hh.nn"));
+  {  // a second restore within the minute keeps the first copy
+    const std::string first = before;
+    for (int k = 2; folderExists(before) && k < 1000; ++k) before = first + " (" + itos(k) + ")";
+  }
+  if (!makeFolders(before) || !writableFolder(before)) {
+    wb.prompter.message("The folder " + before + " for a copy of the present data files cannot be created. "
+                        "Nothing was restored; your data files are as they were.",
+                        kRestoreDoneTitle, Icon::Warning);
+    return BackupOutcome::Failed;
+  }
   makeFolders(wb.folder.dataFolder());
+  if (!copyAll(wb, wb.folder.dataFolder(), before, false, kRestoreFn)) return BackupOutcome::Failed;
   if (!copyAll(wb, folder, wb.folder.dataFolder(), false, kRestoreFn)) return BackupOutcome::Failed;
   wb.prompter.message(std::string("The Full Database Restore Has Completed Successfully") + "\r\n" +
-                          "    Restart Zythara to Load Restored Databases",
-                      "Restore Zythara Databases", Icon::Information);
+                          "    Restart Zythara to Load Restored Databases" + "\r\n\r\n" +
+                          "The data files as they were before the restore are kept in " + before,
+                      kRestoreDoneTitle, Icon::Information);
   return BackupOutcome::Done;
 }
 

@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "CliRunner.h"
+#include "recipes/RecipeRecords.h"
 #include "reference/ReferenceBuild.h"
 
 namespace zy::test {
@@ -68,7 +69,8 @@ TEST(ReferenceVerbs, TopicsTopicSearchAndBooks) {
 
 TEST(ReferenceVerbs, BackupRestoreAndCheckUpdate) {
   Home h;
-  writeFile(h.dir.file("Data/ZYRecipe.dat"), "recipes");
+  const std::string recipes = RecipeRecord{}.encode();  // a sound backup restores
+  writeFile(h.dir.file("Data/ZYRecipe.dat"), recipes);
   // Without a folder the proposed one is taken: today's folder below Backups.
   CliResult r = h({"backup"});
   EXPECT_EQ(r.status, 0);
@@ -76,13 +78,13 @@ TEST(ReferenceVerbs, BackupRestoreAndCheckUpdate) {
   for (const auto& e : std::filesystem::directory_iterator(h.dir.file("Backups"))) dated.push_back(e.path().string());
   ASSERT_EQ(dated.size(), 1u);
   EXPECT_EQ(std::filesystem::path(dated[0]).filename().string().size(), 10u);  // yyyy-mm-dd
-  EXPECT_EQ(readFile(dated[0] + "/ZYRecipe.dat"), "recipes");
+  EXPECT_EQ(readFile(dated[0] + "/ZYRecipe.dat"), recipes);
   EXPECT_NE(readFile(h.dir.file("settings.ini")).find("Backup Path=" + h.dir.file("Backups")), std::string::npos);
 
   r = h({"backup", h.dir.file("bk")});
   EXPECT_EQ(r.status, 0);
   EXPECT_EQ(r.err, "[Backup Zythara Databases] The Full Database Backup Has Completed Successfully\n");
-  EXPECT_EQ(readFile(h.dir.file("bk/ZYRecipe.dat")), "recipes");
+  EXPECT_EQ(readFile(h.dir.file("bk/ZYRecipe.dat")), recipes);
   r = h({"--no", "backup", h.dir.file("bk")});
   EXPECT_EQ(r.err, "[Backup Zythara Databases] Backup files already exist in this folder.  Overwrite them?\n"
                    "[Backup Zythara Databases] Zythara Database Backup Canceled\n");
@@ -90,7 +92,7 @@ TEST(ReferenceVerbs, BackupRestoreAndCheckUpdate) {
   writeFile(h.dir.file("Data/ZYRecipe.dat"), "changed");
   r = h({"restore", h.dir.file("bk")});
   EXPECT_EQ(r.status, 0);
-  EXPECT_EQ(readFile(h.dir.file("Data/ZYRecipe.dat")), "recipes");
+  EXPECT_EQ(readFile(h.dir.file("Data/ZYRecipe.dat")), recipes);
   r = h({"restore", h.dir.file("nothing")});
   EXPECT_EQ(r.status, 1);
   EXPECT_EQ(r.err, "[Restore All Zythara Databases] No Backup Files in this Folder, Be Sure to Double-Click the "

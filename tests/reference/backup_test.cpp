@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "core/paths.h"
+#include "recipes/RecipeRecords.h"
 #include "reference/Backup.h"
 #include "support/TestSupport.h"
 
@@ -136,16 +137,21 @@ TEST(Restore, FromABackupFolderWithItsRestartMessage) {
   EXPECT_EQ(readFile(wb.folder.dataFile("ZYInvHops.dat")), "current hops");
   EXPECT_EQ(backupPathSetting(b), b.dir.path() + "/Backups");
 
-  // A real backup comes back into Data.
+  // A whole backup of sound files comes back into Data.
   const std::string saved = b.dir.path() + "/Backups/2026-11-01";
   fs::create_directories(saved);
-  writeFile(saved + "/ZYRecipe.dat", "saved recipes");
-  writeFile(saved + "/ZYInvHops.dat", "saved hops");
+  for (const char* f : kOrder) writeFile(saved + "/" + f, "");
+  const std::string record = RecipeRecord{}.encode();
+  writeFile(saved + "/ZYRecipe.dat", record);
   EXPECT_EQ(restoreAllDatabases(wb, choose(saved)), BackupOutcome::Done);
-  EXPECT_EQ(readFile(wb.folder.dataFile("ZYRecipe.dat")), "saved recipes");
-  EXPECT_EQ(readFile(wb.folder.dataFile("ZYInvHops.dat")), "saved hops");
+  EXPECT_EQ(readFile(wb.folder.dataFile("ZYRecipe.dat")), record);
+  EXPECT_EQ(readFile(wb.folder.dataFile("ZYInvHops.dat")), "");
+  const std::string before = b.dir.path() + "/Backups/Before Restore 2026-11-22 10.30";
   EXPECT_EQ(b.prompter.shown.back().text,
-            "The Full Database Restore Has Completed Successfully\r\n    Restart Zythara to Load Restored Databases");
+            "The Full Database Restore Has Completed Successfully\r\n    Restart Zythara to Load Restored Databases"
+            "\r\n\r\nThe data files as they were before the restore are kept in " + before);
+  EXPECT_EQ(readFile(before + "/ZYRecipe.dat"), "current");
+  EXPECT_EQ(readFile(before + "/ZYInvHops.dat"), "current hops");
 }
 
 }  // namespace
