@@ -8,6 +8,7 @@
 #include "ui/frmHelp.h"
 #include "ui/frmMain.h"
 #include "ui/frmProperties.h"
+#include "ui/frmRecReader.h"
 #include "ui/frmRecipe.h"
 #include "ui/frmRecipeList.h"
 
@@ -53,6 +54,7 @@ frmRecipe& ProgramWindows::recipe() {
     r.openScale = [this] { openScale(); };
     r.openFermentation = [this] { showFermentation(); };
     r.openComments = [this] { showComments(); };
+    r.setToolOpener(RecipeTool::RecipeReader, [this] { showRecReader(); });
     r.openProperties = [this] { openProperties(recipe_.get()); };
     r.showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
     r.showHelp = [this](int where) { main_.showHelp(where); };
@@ -66,6 +68,7 @@ frmRecipe& ProgramWindows::recipe() {
     connect(&r, &frmRecipe::closed, this, [this] {
       if (fermentation_) fermentation_->close();
       if (comments_) comments_->close();
+      if (recReader_) recReader_->close();
     });
   }
   return *recipe_;
@@ -96,6 +99,20 @@ frmComments& ProgramWindows::comments() {
   return *comments_;
 }
 
+frmRecReader& ProgramWindows::recReader() {
+  if (!recReader_) {
+    recReader_ = new frmRecReader(wb_, recipe().editor(), &recipe());
+    // The editor and its companions show what was read; the reader stays in front.
+    recReader_->extracted = [this] {
+      recipe().refreshFromModel();
+      if (fermentation_) fermentation_->refreshFromModel();
+      if (comments_) comments_->refreshFromModel();
+    };
+    recReader_->showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
+  }
+  return *recReader_;
+}
+
 void ProgramWindows::showRecipeList() { bringForward(recipeList()); }
 
 void ProgramWindows::showRecipe() {
@@ -124,7 +141,10 @@ void ProgramWindows::showComments() {
   bringForward(c);
 }
 
+void ProgramWindows::showRecReader() { bringForward(recReader()); }
+
 void ProgramWindows::closeAll() {
+  if (recReader_) recReader_->close();
   if (comments_) comments_->close();
   if (fermentation_) fermentation_->close();
   if (scale_) scale_->close();

@@ -16,6 +16,7 @@ class frmRecipe;
 class dlgScale;
 class frmFermentation;
 class frmComments;
+class frmRecReader;
 
 class ProgramWindows : public QObject {
   Q_OBJECT
@@ -31,6 +32,7 @@ class ProgramWindows : public QObject {
   dlgScale& scale();
   frmFermentation& fermentation();
   frmComments& comments();
+  frmRecReader& recReader();
 
   // What the menus and buttons do.
   void showRecipeList();
@@ -39,6 +41,7 @@ class ProgramWindows : public QObject {
   void openScale();
   void showFermentation();
   void showComments();
+  void showRecReader();
   // Closes every window that was created (they close for good while appClosing is set).
   void closeAll();
 
@@ -57,6 +60,7 @@ class ProgramWindows : public QObject {
   QPointer<dlgScale> scale_;
   QPointer<frmFermentation> fermentation_;
   QPointer<frmComments> comments_;
+  QPointer<frmRecReader> recReader_;
 };
 
 }  // namespace zy
