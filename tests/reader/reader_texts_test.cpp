@@ -3,10 +3,7 @@
 #include <algorithm>
 
 #include "core/text.h"
-#include "reader/RecipeReader.h"
-#include "recipes/RecipeEditor.h"
-#include "recipes/RecipeStore.h"
-#include "support/TestSupport.h"
+#include "reader/ReaderBench.h"
 
 using namespace zy;
 using namespace zy::test;
@@ -34,8 +31,7 @@ TEST(RecipeReaderTexts, EachTextBecomesItsRecipe) {
        "1|G Hallertau|30.0|Oz|4.2|60|"},  // a bare "g" is no unit word
       {"05-raspberry-wheat.txt", "Raspberry Wheat|5.0|3.5|US Gallons|60|1.0 Cups - Corn Sugar|0.0|0.0 4,1,0,0",
        "0|American Wheat Yeast Culture|1.0|Lbs|1.037|2.0|Yes"},  // "wheat" before "yeast"
-      {"06-big-red-ipa.txt", "Big Red IPA|5.0|5.0|US Gallons|60||0.0|0.0 3,4,2,1",
-       "1|Cascade Hops, Steep|1.0|Oz|5.0|0|"},
+      {"06-big-red-ipa.txt", "Big Red IPA|5.0|5.0|US Gallons|60||0.0|0.0 3,4,2,1", "1|Cascade Hops, Steep|1.0|Oz|5.0|0|"},
       {"07-oaked-porter.txt", "Oaked Porter|5.0|3.5|US Gallons|60||1|3 3,1,1,1", "2|Oak Chips|2.0|Oz|||"},
       {"08-spiced-holiday.txt", "Spiced Holiday Ale|5.0|3.5|US Gallons|60||0.0|0.0 4,1,3,1",
        "0|Crystal Malt|1.0|Lbs|1.033|80.0|Yes"},
@@ -52,8 +48,7 @@ TEST(RecipeReaderTexts, EachTextBecomesItsRecipe) {
       {"14-rye-pale.txt", "Rye Pale Ale|5.0|5.5|US Gallons|60||0.0|0.0 3,2,1,1", "3|Dry Yeast|5.0|Packet|70||"},
       {"15-dunkelweizen.txt", "Dunkelweizen|5.0|3.5|US Gallons|60||0.0|0.0 4,1,0,0", "1|Tettnang|1.0|Oz|4.0|60|"},
       {"16-spruce-beer.txt", "Spruce Beer|5.0|3.5|US Gallons|60||0.0|0.0 2,1,2,1", "2|Polyclar|0.5|Tsp|||"},
-      {"17-vienna-lager.txt", "Vienna Lager|5.0|3.5|US Gallons|60||3|0.0 3,2,0,1",
-       "0|Caramunich|0.5|Lbs|1.033|14.0|Yes"},
+      {"17-vienna-lager.txt", "Vienna Lager|5.0|3.5|US Gallons|60||3|0.0 3,2,0,1", "0|Caramunich|0.5|Lbs|1.033|14.0|Yes"},
       {"18-honey-blonde.txt", "Honey Blonde|5.0|3.5|US Gallons|60|1.25 Cups - Dry Malt Extract|0.0|0.0 2,2,0,1",
        "3|Nottingham Yeast, Attenuation: 78|1.0|Packet|70||"},  // 78 is read as the quantity
       {"19-imperial-batch.txt", "Imperial Batch|4.0|4.0|US Gallons|60||0.0|0.0 2,1,0,1",
@@ -67,32 +62,18 @@ TEST(RecipeReaderTexts, EachTextBecomesItsRecipe) {
       {"23-kolsch-8bit.txt", "K\xF6lsch Light|5.0|3.5|US Gallons|60||0.0|0.0 1,1,0,1", "3|K\xF6lsch Yeast|1.0|Packet|70||"},
   };
   for (const TextCase& c : cases) {
-    Bench b;
-    newRecipeRecord(*b.wb);
-    RecipeEditor e(*b.wb);
-    e.initRecipeForm();
-    e.populateRecipeForm();
-    RecipeReader r(e);
+    ReaderBench t;
     std::string text = crlfText(readFile(std::string(ZY_SOURCE_DIR) + "/tests/data/recipes-text/" + c.file));
-    if (isUtf8Text(text)) text = utf8ToCp1252(text);
-    r.txtComment = text;
-    ASSERT_TRUE(r.mnuFileExtractRecipe()) << c.file;
-    const IngredientTable& g = e.sheet.grid;
-    const FermentationForm& f = e.fermentation;
-    std::string summary = e.txtTitle + "|" + e.sheet.txtFermentVolume + "|" + e.sheet.txtInitalBoilVolume + "|" +
-                          e.lblVolumeUnits + "|" + e.txtBoilTime + "|" + f.txtConditioning + "|" + f.txtValue[0] +
+    t.r.txtComment = isUtf8Text(text) ? utf8ToCp1252(text) : text;
+    ASSERT_TRUE(t.r.mnuFileExtractRecipe()) << c.file;
+    const FermentationForm& f = t.e.fermentation;
+    std::string summary = t.e.txtTitle + "|" + t.e.sheet.txtFermentVolume + "|" + t.e.sheet.txtInitalBoilVolume + "|" +
+                          t.e.lblVolumeUnits + "|" + t.e.txtBoilTime + "|" + f.txtConditioning + "|" + f.txtValue[0] +
                           "|" + f.txtValue[1] + " ";
-    for (int k = 0; k < 4; ++k) summary += std::to_string(g.itemCount(k)) + (k < 3 ? "," : "");
+    for (int k = 0; k < 4; ++k) summary += std::to_string(t.e.sheet.grid.itemCount(k)) + (k < 3 ? "," : "");
     EXPECT_EQ(summary, c.summary) << c.file;
-    std::vector<std::string> rows;
-    for (int row = 0; row < g.totalRow(); ++row)
-      if (g.isItemRow(row)) {
-        std::string s = std::to_string(g.kindOfRow(row));
-        for (int col = COL_NAME; col <= COL_MASH; ++col)
-          if (col != COL_COST) s += "|" + g.cell(row, col);
-        rows.push_back(s);
-      }
+    const std::vector<std::string> rows = t.rows();
     EXPECT_NE(std::find(rows.begin(), rows.end(), c.keyRow), rows.end()) << c.file << ": " << c.keyRow;
-    EXPECT_TRUE(b.prompter.shown.empty()) << c.file;
+    EXPECT_TRUE(t.b.prompter.shown.empty()) << c.file;
   }
 }

@@ -2,7 +2,6 @@
 // smart instructions, written only when ZY_SCREENSHOT_DIR names a folder.
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QDir>
 #include <QPlainTextEdit>
 #include <QTest>
@@ -16,11 +15,9 @@ namespace zy::test {
 namespace {
 
 void saveShot(QWidget& w, const QString& dir, const QString& name) {
-  QApplication::processEvents();
   QTest::qWait(50);
-  const QString path = QDir(dir).filePath(name + ".png");
-  ASSERT_TRUE(w.grab().save(path));
-  EXPECT_TRUE(pictureIsNotBlank(path)) << name.toStdString() << " is blank";
+  ASSERT_TRUE(w.grab().save(QDir(dir).filePath(name + ".png")));
+  EXPECT_TRUE(pictureIsNotBlank(QDir(dir).filePath(name + ".png"))) << name.toStdString();
 }
 
 TEST(Screenshots, TextWindows) {
@@ -34,10 +31,9 @@ TEST(Screenshots, TextWindows) {
   r.refreshFromModel();
 
   frmRecReader& reader = b.windows->recReader();
-  reader.txtComment->setPlainText(
-      "\"Harbor Pale Ale\"\n5 gallons\n8 lbs Pale Malt\n1 lb Crystal 40L\n1 oz Cascade (5.5% AA) - 60 min\n"
-      "1 oz Cascade (5.5% AA) - 15 min\n1/2 oz Cascade dry hop\n1 tsp Irish moss\n1 pkg Safale US-05\n"
-      "Primary 7 days at 68 in glass\n3/4 cup corn sugar for priming");
+  reader.txtComment->setPlainText(QString::fromStdString(readFile(std::string(ZY_SOURCE_DIR) +
+                                                                   "/tests/data/recipes-text/01-harbor-pale.txt"))
+                                     .replace("\r\n", "\n"));
   reader.show();
   saveShot(reader, dir, "recipe-reader");
 
