@@ -796,8 +796,8 @@ bool RecipeReader::importText(const std::string& path) {
   if (isUtf8Text(text)) text = utf8ToCp1252(text);
   if (!txtComment.empty() && txtComment.size() >= 2 && txtComment.substr(txtComment.size() - 2) != "\r\n") txtComment += "\r\n";
   txtComment += text;
-  const size_t slash = path.find_last_of('/');
-  editor_.wb.settings.write("Comments", "File Path", slash == std::string::npos ? std::string() : path.substr(0, slash + 1));
+  const size_t slash = path.find_last_of("/\\");
+  editor_.wb.settings.write("Comments", "File Path", slash == std::string::npos ? std::string() : path.substr(0, slash));
   return true;
 }
 

@@ -117,7 +117,7 @@ void frmRecReader::mnuFileImport_Click() {
 
 void frmRecReader::mnuFileExport_Click() {
   const std::string folder = wb_.settings.read(kCommentsSection, "File Path", "");
-  const auto path = wb_.prompter.saveFile("Export Comments to File", kFilter, folder.empty() ? "*.txt" : folder + "*.txt");
+  const auto path = wb_.prompter.saveFile("Export Comments to File", kFilter, folder.empty() ? "*.txt" : folder + "/*.txt");
   if (!path || path->empty()) return;
   reader_.exportText(*path);
 }

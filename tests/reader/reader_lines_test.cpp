@@ -122,4 +122,12 @@ TEST(RecipeReader, WholeTextNameWarningsAndHops) {
   EXPECT_TRUE(t.r.mnuFileExtractRecipe());
   EXPECT_EQ(t.e.txtTitle, "Summer Wheat");
   EXPECT_EQ(t.rows(), std::vector<std::string>({"0|Brown's Ale|1.0|Lbs|1.033|2.0|Yes", "0|Rice|2.0|Lbs|1.037|1.0|Yes"}));
+
+  // A text file's lines (UTF-8 or 8-bit, any line ends) are added to the text; the export writes it as it stands.
+  writeFile(t.b.dir.file("in.txt"), "1 lb M\xC3\xA4rzen malt\n2 oz oak chips");
+  ASSERT_TRUE(t.r.importText(t.b.dir.file("in.txt")));
+  EXPECT_EQ(t.r.txtComment, "Mr. Brown's Ale\r\n2 lbs rice\r\n1 lb M\xE4rzen malt\r\n2 oz oak chips");
+  EXPECT_EQ(t.b.settings.read("Comments", "File Path", ""), t.b.dir.path());
+  ASSERT_TRUE(t.r.exportText(t.b.dir.file("out.txt")));
+  EXPECT_EQ(readFile(t.b.dir.file("out.txt")), t.r.txtComment);
 }
