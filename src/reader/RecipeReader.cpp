@@ -709,7 +709,7 @@ void RecipeReader::addIngredient() {
     // A recipe holds 25 ingredients; the lines beyond stay in the text.
     if (!fullReported_)
       wb.prompter.message("The recipe holds " + itos(kMaxRecipeItems) +
-                              " ingredients, the most it can take; the lines from \"" + trim(s_.Line) +
+                              " ingredients, the most it can take; the lines from \"" + original_ +
                               "\" on were not added.",
                           kCaption, Icon::Warning);
     fullReported_ = true;

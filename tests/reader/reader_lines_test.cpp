@@ -130,4 +130,12 @@ TEST(RecipeReader, WholeTextNameWarningsAndHops) {
   EXPECT_EQ(t.b.settings.read("Comments", "File Path", ""), t.b.dir.path());
   ASSERT_TRUE(t.r.exportText(t.b.dir.file("out.txt")));
   EXPECT_EQ(readFile(t.b.dir.file("out.txt")), t.r.txtComment);
+
+  // A recipe holds 25 ingredients: the lines beyond are left out, once said.
+  t.r.txtComment.clear();
+  for (int i = 1; i <= 27; ++i) t.r.txtComment += std::to_string(i) + " oz Malt number " + std::to_string(i) + "\r\n";
+  EXPECT_TRUE(t.r.mnuFileExtractRecipe());
+  EXPECT_EQ(t.e.sheet.grid.itemCount(), 25);
+  EXPECT_EQ(t.b.prompter.shown.back().text, "The recipe holds 25 ingredients, the most it can take; the lines from "
+                                            "\"26 oz Malt number 26\" on were not added.");
 }
