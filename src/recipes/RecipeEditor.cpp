@@ -387,11 +387,13 @@ void RecipeEditor::cmdFilterClosed() {
   filling = was;
 }
 
+RecipeStyleValues RecipeEditor::styleValues() const {
+  return RecipeStyleValues::fromDisplay(sheet.lblOG, sheet.lblFG, sheet.lblIBU, sheet.lblColor, sheet.lblAlcohol);
+}
+
 StyleMatchModel RecipeEditor::openStyleMatch() const {
   StyleMatchModel model;
-  model.open(wb.styles,
-             RecipeStyleValues::fromDisplay(sheet.lblOG, sheet.lblFG, sheet.lblIBU, sheet.lblColor, sheet.lblAlcohol),
-             cboBeerStyleText);
+  model.open(wb.styles, styleValues(), cboBeerStyleText);
   return model;
 }
 

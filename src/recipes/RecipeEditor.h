@@ -115,6 +115,8 @@ class RecipeEditor {
   void cmdFilterClosed();
   // The match window's list for the values the editor shows (cmdSearch).
   StyleMatchModel openStyleMatch() const;
+  // The recipe's OG, FG, IBU, colour and alcohol as the result labels show them.
+  RecipeStyleValues styleValues() const;
   void setFermentVolume(const std::string& text);
   void setBoilVolume(const std::string& text);
 

@@ -2,7 +2,12 @@
 
 #include <QEvent>
 
+#include "ui/dlgFilterBeerStyles.h"
 #include "ui/dlgScale.h"
+#include "ui/frmBeerStyles.h"
+#include "ui/frmHopsUtilization.h"
+#include "ui/frmStyleMatch.h"
+#include "ui/frmUnitMashData.h"
 #include "ui/frmComments.h"
 #include "ui/frmFermentation.h"
 #include "ui/frmHelp.h"
@@ -25,11 +30,14 @@ void bringForward(QWidget& w) {
 
 ProgramWindows::ProgramWindows(Workbench& wb, frmMain& main) : wb_(wb), main_(main) {
   main.setChildOpener(frmMain::Child::RecipeList, [this] { showRecipeList(); });
+  main.setChildOpener(frmMain::Child::BeerStyles, [this] { showBeerStyles(); });
   main.installEventFilter(this);
 }
 
 ProgramWindows::~ProgramWindows() {
   // The editor's window takes its companions with it; the list forgets the tree's refresh.
+  beerStyles_.reset();
+  hopsUtilization_.reset();
   recipe_.reset();
   recipeList_.reset();
 }
@@ -43,6 +51,7 @@ frmRecipeList& ProgramWindows::recipeList() {
     l.showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
     l.showHelp = [this](int where) { main_.showHelp(where); };
     l.openProperties = [this] { openProperties(recipeList_.get()); };
+    l.setViewOpener(frmRecipeList::View::BeerStyles, [this] { showBeerStyles(); });
   }
   return *recipeList_;
 }
@@ -58,6 +67,13 @@ frmRecipe& ProgramWindows::recipe() {
     r.openProperties = [this] { openProperties(recipe_.get()); };
     r.showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
     r.showHelp = [this](int where) { main_.showHelp(where); };
+    r.setToolOpener(RecipeTool::HopsUtilization, [this] { showHopsUtilization(); });
+    r.setToolOpener(RecipeTool::UnitMashData, [this] { showUnitMashData(); });
+    r.setToolOpener(RecipeTool::StyleMatch, [this] { showStyleMatch(); });
+    r.setToolOpener(RecipeTool::StyleFilter, [this] { openStyleFilter(); });
+    r.setToolOpener(RecipeTool::BeerStyles, [this] {
+      showBeerStyles(recipe_->editor().cboBeerStyleText);
+    });
     // A change in the fermentation window shows on the editor's save button.
     FermentationForm& f = r.editor().fermentation;
     f.onChanged = [&r] {
@@ -69,6 +85,8 @@ frmRecipe& ProgramWindows::recipe() {
       if (fermentation_) fermentation_->close();
       if (comments_) comments_->close();
       if (recReader_) recReader_->close();
+      if (styleMatch_) styleMatch_->close();
+      if (unitMashData_) unitMashData_->close();
     });
   }
   return *recipe_;
@@ -113,6 +131,87 @@ frmRecReader& ProgramWindows::recReader() {
   return *recReader_;
 }
 
+frmHopsUtilization& ProgramWindows::hopsUtilization() {
+  if (!hopsUtilization_) {
+    // The curve is program-wide: the window stands on its own. A new curve takes effect at the
+    // open recipe's next bitterness computation, so nothing is recomputed on Accept.
+    hopsUtilization_ = std::make_unique<frmHopsUtilization>(wb_);
+    hopsUtilization_->openHelp = [this](const QString& page) { showHelpTopic(page); };
+  }
+  return *hopsUtilization_;
+}
+
+frmUnitMashData& ProgramWindows::unitMashData() {
+  if (!unitMashData_) {
+    unitMashData_ = new frmUnitMashData(wb_, recipe().editor(), &recipe());
+    unitMashData_->setWindowFlag(Qt::Window);
+    unitMashData_->applied = [this] { recipe().refreshFromModel(); };
+    unitMashData_->openHelp = [this](const QString& page) { showHelpTopic(page); };
+  }
+  return *unitMashData_;
+}
+
+frmStyleMatch& ProgramWindows::styleMatch() {
+  if (!styleMatch_) {
+    styleMatch_ = new frmStyleMatch(wb_, recipe().editor(), &recipe());
+    styleMatch_->setWindowFlag(Qt::Window);
+    styleMatch_->styleSet = [this] { recipe().refreshFromModel(); };
+    styleMatch_->openStyleBrowser = [this](const std::string& name) { showBeerStyles(name); };
+  }
+  return *styleMatch_;
+}
+
+frmBeerStyles& ProgramWindows::beerStyles() {
+  if (!beerStyles_) {
+    beerStyles_ = std::make_unique<frmBeerStyles>(wb_);
+    frmBeerStyles& b = *beerStyles_;
+    // The open recipe's values are marked on the range bars while the editor shows a recipe.
+    b.recipeValues = [this]() -> std::optional<RecipeStyleValues> {
+      if (!recipe_ || !recipe_->isVisible()) return std::nullopt;
+      return recipe_->editor().styleValues();
+    };
+    // A changed style table: the editor's list is rebuilt and keeps the recipe's style.
+    b.stylesChanged = [this] {
+      if (!recipe_) return;
+      recipe_->editor().cmdFilterClosed();
+      recipe_->refreshFromModel();
+    };
+  }
+  return *beerStyles_;
+}
+
+// Each of these windows fills itself from the model when it is shown; one that is open already
+// takes the recipe as it now stands.
+void ProgramWindows::showHopsUtilization() { bringForward(hopsUtilization()); }
+
+void ProgramWindows::showUnitMashData() {
+  frmUnitMashData& u = unitMashData();
+  if (u.isVisible()) u.load();
+  bringForward(u);
+}
+
+void ProgramWindows::showStyleMatch() {
+  frmStyleMatch& m = styleMatch();
+  if (m.isVisible()) m.refresh();
+  bringForward(m);
+}
+
+void ProgramWindows::openStyleFilter() {
+  dlgFilterBeerStyles dlg(wb_, &recipe());
+  dlg.exec();
+  // Whatever the answer, the list is rebuilt by the filter as it now stands and the recipe keeps
+  // its style even where the filter hides it.
+  recipe().editor().cmdFilterClosed();
+  recipe().refreshFromModel();
+}
+
+void ProgramWindows::showBeerStyles(const std::string& styleName) {
+  frmBeerStyles& b = beerStyles();
+  b.refreshList();
+  if (!styleName.empty()) b.showStyle(styleName);
+  bringForward(b);
+}
+
 void ProgramWindows::showRecipeList() { bringForward(recipeList()); }
 
 void ProgramWindows::showRecipe() {
@@ -145,6 +244,10 @@ void ProgramWindows::showRecReader() { bringForward(recReader()); }
 
 void ProgramWindows::closeAll() {
   if (recReader_) recReader_->close();
+  if (beerStyles_) beerStyles_->close();
+  if (hopsUtilization_) hopsUtilization_->close();
+  if (styleMatch_) styleMatch_->close();
+  if (unitMashData_) unitMashData_->close();
   if (comments_) comments_->close();
   if (fermentation_) fermentation_->close();
   if (scale_) scale_->close();

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QPointer>
 #include <memory>
+#include <string>
 
 #include "workbench/Workbench.h"
 
@@ -17,6 +18,10 @@ class dlgScale;
 class frmFermentation;
 class frmComments;
 class frmRecReader;
+class frmHopsUtilization;
+class frmUnitMashData;
+class frmStyleMatch;
+class frmBeerStyles;
 
 class ProgramWindows : public QObject {
   Q_OBJECT
@@ -33,6 +38,10 @@ class ProgramWindows : public QObject {
   frmFermentation& fermentation();
   frmComments& comments();
   frmRecReader& recReader();
+  frmHopsUtilization& hopsUtilization();
+  frmUnitMashData& unitMashData();
+  frmStyleMatch& styleMatch();
+  frmBeerStyles& beerStyles();
 
   // What the menus and buttons do.
   void showRecipeList();
@@ -42,6 +51,13 @@ class ProgramWindows : public QObject {
   void showFermentation();
   void showComments();
   void showRecReader();
+  void showHopsUtilization();
+  void showUnitMashData();
+  void showStyleMatch();
+  // The filter dialog, then the editor's style list rebuilt keeping the recipe's style.
+  void openStyleFilter();
+  // The style browser, on the named style when one is given.
+  void showBeerStyles(const std::string& styleName = "");
   // Closes every window that was created (they close for good while appClosing is set).
   void closeAll();
 
@@ -56,11 +72,15 @@ class ProgramWindows : public QObject {
   frmMain& main_;
   std::unique_ptr<frmRecipeList> recipeList_;
   std::unique_ptr<frmRecipe> recipe_;
+  std::unique_ptr<frmHopsUtilization> hopsUtilization_;
+  std::unique_ptr<frmBeerStyles> beerStyles_;
   // These three are owned by the editor's window, which they belong to.
   QPointer<dlgScale> scale_;
   QPointer<frmFermentation> fermentation_;
   QPointer<frmComments> comments_;
   QPointer<frmRecReader> recReader_;
+  QPointer<frmUnitMashData> unitMashData_;
+  QPointer<frmStyleMatch> styleMatch_;
 };
 
 }  // namespace zy

@@ -277,9 +277,9 @@ void frmBeerStyles::showDetails() {
     if (!trim(s.styleId).empty()) info += "   " + tr("Style ID: ") + qs(trim(s.styleId));
   }
   lblStyleInfo->setText(info);
-  RecipeStyleValues values;
+  std::optional<RecipeStyleValues> values;
   if (recipeValues) values = recipeValues();
-  const auto b = styleRangeBars(s, recipeValues ? &values : nullptr);
+  const auto b = styleRangeBars(s, values ? &*values : nullptr);
   for (size_t i = 0; i < bars.size(); ++i) static_cast<StyleRangeBarView*>(bars[i])->setBar(b[i], any);
   txtComments->setPlainText(any ? qs(s.comments) : QString());
 }

@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "styles/StyleEditor.h"
@@ -36,8 +37,8 @@ class frmBeerStyles : public QMainWindow {
   // The table row of the selected entry, -1 for none.
   int selectedRow() const;
 
-  // The open recipe's values, marked on the bars; when unset, no marks.
-  std::function<RecipeStyleValues()> recipeValues;
+  // The open recipe's values, marked on the bars; no marks when unset or when no recipe is open.
+  std::function<std::optional<RecipeStyleValues>()> recipeValues;
   // "New Recipe" from the selected style; the entry is disabled while this is unset.
   std::function<void(int styleRow)> newRecipe;
   // After each saved change of the styles (the recipe editor rebuilds its style list).

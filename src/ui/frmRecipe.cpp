@@ -38,7 +38,7 @@ struct ToolInfo {
 const std::array<ToolInfo, kRecipeToolCount>& toolInfo() {
   static const std::array<ToolInfo, kRecipeToolCount> t = {{
       {"Hops utilization curve and bitterness by boil time", "Comes with the hops utilization window"},
-      {"Mash type, efficiency and grain data", "Comes with the mash information window"},
+      {"The mash steps: their times and temperatures", "Comes with the mash schedule window"},
       {"Find the beer styles this recipe matches", "Comes with the beer style windows"},
       {"Choose which styles the style list offers", "Comes with the beer style windows"},
       {"Browse the beer styles", "Comes with the beer style windows"},
@@ -58,6 +58,7 @@ const std::array<ToolInfo, kRecipeToolCount>& toolInfo() {
       {"Paper, orientation and margins for printing", "Comes with the reports"},
       {"Generate a label for this recipe", "Comes with the label tools"},
       {"Start the label program", "Comes with the label tools"},
+      {"Unit system, volume unit, mash type, efficiency and boil time", "Comes with the units/mash data window"},
   }};
   return t;
 }
@@ -417,6 +418,11 @@ QWidget* frmRecipe::buildTitleFrame() {
   mashRow->addWidget(new QLabel("Boil (min):"));
   mashRow->addWidget(lblBoilTime);
   mashRow->addStretch();
+  cmdUnitMash = new QPushButton("&Units/Mash...", g);
+  cmdUnitMash->setObjectName("cmdUnitMash");
+  toolWidgets_[static_cast<size_t>(RecipeTool::UnitMashData)].push_back(cmdUnitMash);
+  connect(cmdUnitMash, &QPushButton::clicked, this, [this] { runTool(RecipeTool::UnitMashData); });
+  mashRow->addWidget(cmdUnitMash);
   grid->addLayout(mashRow, 3, 4, 1, 3);
   grid->setColumnStretch(4, 1);
 

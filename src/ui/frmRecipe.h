@@ -32,9 +32,9 @@ class UpDown;
 enum class RecipeTool {
   HopsUtilization, MashInfo, StyleMatch, StyleFilter, BeerStyles, InventoryLists, FromInventory, WaterMgmt,
   WaterTreatment, MaltFormulator, Starter, RecipeReader, BatchLog, ShopListAdd, ShopListCheck, ShopListDisplay,
-  PrintPreview, Print, PageSetup, GenerateLabel, Quillmark
+  PrintPreview, Print, PageSetup, GenerateLabel, Quillmark, UnitMashData
 };
-constexpr int kRecipeToolCount = static_cast<int>(RecipeTool::Quillmark) + 1;
+constexpr int kRecipeToolCount = static_cast<int>(RecipeTool::UnitMashData) + 1;
 
 // grdIngredients' model: the editor's ingredient table as it stands, header rows bold on a shaded
 // ground, the total row bold.
@@ -89,7 +89,7 @@ class frmRecipe : public QMainWindow {
   QLineEdit* txtTitle = nullptr;
   QComboBox* cboRecipeType = nullptr;
   QComboBox* cboBeerStyle = nullptr;
-  QPushButton *cmdSearch = nullptr, *cmdFilter = nullptr;
+  QPushButton *cmdSearch = nullptr, *cmdFilter = nullptr, *cmdUnitMash = nullptr;
   QLineEdit *txtFermentVolume = nullptr, *txtInitalBoilVolume = nullptr;
   QLabel *lblFermentUnits = nullptr, *lblBoilUnits = nullptr, *lblUnitType = nullptr, *lblMashType = nullptr,
          *lblMashEff = nullptr, *lblBoilTime = nullptr;

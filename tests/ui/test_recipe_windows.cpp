@@ -19,7 +19,12 @@
 #include "ui/RecipeIcons.h"
 #include "workbench/Startup.h"
 #include "recipes/RecipeExchange.h"
+#include "ui/dlgFilterBeerStyles.h"
 #include "ui/dlgScale.h"
+#include "ui/frmBeerStyles.h"
+#include "ui/frmHopsUtilization.h"
+#include "ui/frmStyleMatch.h"
+#include "ui/frmUnitMashData.h"
 #include "ui/frmHelp.h"
 #include "ui/frmFermentation.h"
 #include "ui/frmFind.h"
@@ -232,14 +237,14 @@ TEST_F(WindowsTest, ExportAndImportRememberTheirFoldersAndSortByStyle) {
 TEST_F(WindowsTest, ToolsWithoutAWindowStayDisabledWithATip) {
   open("R1");
   frmRecipe& r = editor();
-  EXPECT_FALSE(r.tb["Hops"]->isEnabled());
-  EXPECT_EQ(r.tb["Hops"]->toolTip(), "Comes with the hops utilization window");
+  EXPECT_FALSE(r.tb["Preview"]->isEnabled());
+  EXPECT_EQ(r.tb["Preview"]->toolTip(), "Comes with the reports");
   EXPECT_EQ(r.cmdAddIngredients->toolTip(), "Comes with the inventory");
   int opened = 0;
-  r.setToolOpener(RecipeTool::HopsUtilization, [&] { ++opened; });
+  r.setToolOpener(RecipeTool::PrintPreview, [&] { ++opened; });
   r.setToolOpener(RecipeTool::MashInfo, [&] { ++opened; });
-  EXPECT_TRUE(r.mnuToolsHopsUtilization->isEnabled());
-  r.tb["Hops"]->trigger();
+  EXPECT_TRUE(r.tb["Preview"]->isEnabled());
+  r.tb["Preview"]->trigger();
   r.tb["Mash"]->trigger();
   EXPECT_EQ(opened, 2);
   // The mash entry follows the recipe's mash type.
@@ -254,6 +259,45 @@ TEST_F(WindowsTest, ToolsWithoutAWindowStayDisabledWithATip) {
   EXPECT_EQ(b.main->help()->currentPage(), "recipe-editor.html");
   list->tbHelp->trigger();
   EXPECT_EQ(b.main->help()->currentPage(), "recipe-list.html");
+}
+
+TEST_F(WindowsTest, TheEditorOpensTheHopsUnitsAndStyleWindows) {
+  open("R1");
+  frmRecipe& r = editor();
+  r.tb["Hops"]->trigger();
+  EXPECT_TRUE(b.windows->hopsUtilization().isVisible());
+
+  // Units/mash data: No Mash reaches the recipe and the editor's labels.
+  QTest::mouseClick(r.cmdUnitMash, Qt::LeftButton);
+  frmUnitMashData& u = b.windows->unitMashData();
+  ASSERT_TRUE(u.isVisible());
+  u.cboMashType->setCurrentIndex(0);
+  QTest::mouseClick(u.cmdOK, Qt::LeftButton);
+  EXPECT_EQ(b.wb->recipe.rec.mashType, 0);
+  EXPECT_EQ(r.lblMashEff->text(), "N/A");
+  EXPECT_FALSE(r.mnuInstructMashInfo->isEnabled());
+
+  // The match window lists the styles near the recipe; the View menu shows the recipe's style in
+  // the browser.
+  QTest::mouseClick(r.cmdSearch, Qt::LeftButton);
+  EXPECT_TRUE(b.windows->styleMatch().isVisible());
+  EXPECT_GT(b.windows->styleMatch().lvStyle->topLevelItemCount(), 0);
+  r.mnuViewBeerStyles->trigger();
+  frmBeerStyles& bs = b.windows->beerStyles();
+  EXPECT_TRUE(bs.isVisible());
+  EXPECT_EQ(bs.lblStyleName->text(), "American Amber Ale");
+
+  // A filter that hides every style leaves the recipe its style.
+  whenModalOpens([](QWidget* w) {
+    auto* d = qobject_cast<dlgFilterBeerStyles*>(w);
+    ASSERT_NE(d, nullptr);
+    d->txtFilter->setText("nothing like it");
+    QTest::mouseClick(d->cmdOK, Qt::LeftButton);
+  });
+  QTest::mouseClick(r.cmdFilter, Qt::LeftButton);
+  EXPECT_EQ(r.cboBeerStyle->currentIndex(), -1);
+  EXPECT_EQ(r.cboBeerStyle->placeholderText(), "American Amber Ale");
+  EXPECT_EQ(model().styleList.size(), 2u);  // the two bracketed entries
 }
 
 TEST_F(WindowsTest, ScaleDialogDoublesTheBatch) {

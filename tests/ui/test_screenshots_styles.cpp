@@ -91,10 +91,7 @@ TEST(Screenshots, StyleWindows) {
   filter.exec();
 
   frmBeerStyles browser(*b.wb);
-  browser.recipeValues = [&] {
-    return RecipeStyleValues::fromDisplay(e.sheet.lblOG, e.sheet.lblFG, e.sheet.lblIBU, e.sheet.lblColor,
-                                          e.sheet.lblAlcohol);
-  };
+  browser.recipeValues = [&] { return e.styleValues(); };
   browser.show();
   browser.showStyle("American Amber Ale");
   save(browser, dir, "beer-styles");

@@ -190,10 +190,7 @@ TEST(StyleWindows, BrowserAddsACustomStyleThatIsFoundAfterAReload) {
 
   ASSERT_TRUE(LoadBeerStyles(*b.wb));
   w = std::make_unique<frmBeerStyles>(*b.wb);
-  w->recipeValues = [&] {
-    const RecipeSheet& s = b.e.sheet;
-    return RecipeStyleValues::fromDisplay(s.lblOG, s.lblFG, s.lblIBU, s.lblColor, s.lblAlcohol);
-  };
+  w->recipeValues = [&] { return b.e.styleValues(); };
   w->cboSource->setCurrentIndex(BROWSE_ALL);
   w->showStyle("House Amber");
   EXPECT_EQ(w->selectedRow(), 5);
