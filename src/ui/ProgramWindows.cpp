@@ -18,6 +18,7 @@
 #include "inventory/InventoryStartup.h"
 #include "ui/frmMain.h"
 #include "ui/frmProperties.h"
+#include "ui/frmRecReader.h"
 #include "ui/frmRecipe.h"
 #include "ui/frmRecipeList.h"
 
@@ -72,6 +73,7 @@ frmRecipe& ProgramWindows::recipe() {
     r.openScale = [this] { openScale(); };
     r.openFermentation = [this] { showFermentation(); };
     r.openComments = [this] { showComments(); };
+    r.setToolOpener(RecipeTool::RecipeReader, [this] { showRecReader(); });
     r.openProperties = [this] { openProperties(recipe_.get()); };
     r.showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
     r.showHelp = [this](int where) { main_.showHelp(where); };
@@ -98,6 +100,7 @@ frmRecipe& ProgramWindows::recipe() {
     connect(&r, &frmRecipe::closed, this, [this] {
       if (fermentation_) fermentation_->close();
       if (comments_) comments_->close();
+      if (recReader_) recReader_->close();
       if (styleMatch_) styleMatch_->close();
       if (unitMashData_) unitMashData_->close();
       if (batchLogList_) batchLogList_->close();
@@ -129,6 +132,20 @@ frmComments& ProgramWindows::comments() {
     comments_->showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
   }
   return *comments_;
+}
+
+frmRecReader& ProgramWindows::recReader() {
+  if (!recReader_) {
+    recReader_ = new frmRecReader(wb_, recipe().editor(), &recipe());
+    // The editor and its companions show what was read; the reader stays in front.
+    recReader_->extracted = [this] {
+      recipe().refreshFromModel();
+      if (fermentation_) fermentation_->refreshFromModel();
+      if (comments_) comments_->refreshFromModel();
+    };
+    recReader_->showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
+  }
+  return *recReader_;
 }
 
 frmHopsUtilization& ProgramWindows::hopsUtilization() {
@@ -309,7 +326,10 @@ void ProgramWindows::showComments() {
   bringForward(c);
 }
 
+void ProgramWindows::showRecReader() { bringForward(recReader()); }
+
 void ProgramWindows::closeAll() {
+  if (recReader_) recReader_->close();
   if (beerStyles_) beerStyles_->close();
   if (hopsUtilization_) hopsUtilization_->close();
   if (styleMatch_) styleMatch_->close();

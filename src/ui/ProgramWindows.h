@@ -17,6 +17,7 @@ class frmRecipe;
 class dlgScale;
 class frmFermentation;
 class frmComments;
+class frmRecReader;
 class frmHopsUtilization;
 class frmUnitMashData;
 class frmStyleMatch;
@@ -40,6 +41,7 @@ class ProgramWindows : public QObject {
   dlgScale& scale();
   frmFermentation& fermentation();
   frmComments& comments();
+  frmRecReader& recReader();
   frmHopsUtilization& hopsUtilization();
   frmUnitMashData& unitMashData();
   frmStyleMatch& styleMatch();
@@ -56,6 +58,7 @@ class ProgramWindows : public QObject {
   void openScale();
   void showFermentation();
   void showComments();
+  void showRecReader();
   void showHopsUtilization();
   void showUnitMashData();
   void showStyleMatch();
@@ -91,6 +94,7 @@ class ProgramWindows : public QObject {
   QPointer<dlgScale> scale_;
   QPointer<frmFermentation> fermentation_;
   QPointer<frmComments> comments_;
+  QPointer<frmRecReader> recReader_;
   QPointer<frmUnitMashData> unitMashData_;
   QPointer<frmStyleMatch> styleMatch_;
   std::unique_ptr<frmInventory> inventory_;
