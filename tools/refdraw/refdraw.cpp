@@ -475,9 +475,10 @@ bool yeastTemperatures(const QString& path) {
     const char* name;
     double from, to;
   };
-  const Family fam[] = {{"Lager", 48, 55},          {"Kölsch and altbier", 56, 64}, {"Clean American ale", 62, 68},
-                        {"English ale", 64, 70},   {"Belgian ale", 64, 78},        {"Saison", 68, 90},
-                        {"Kveik", 75, 98}};
+  // The working ranges of the ale and lager family tables.
+  const Family fam[] = {{"Lager", 48, 55},          {"Kölsch and altbier", 56, 66}, {"Clean American ale", 60, 72},
+                        {"English ale", 62, 70},   {"Belgian abbey", 64, 78},      {"Saison", 68, 90},
+                        {"Kveik", 72, 98}};
   const int n = sizeof fam / sizeof fam[0];
   for (double t = 40; t <= 100; t += 10) {
     c.p.setPen(QPen(kGrid, 1));
