@@ -1,4 +1,4 @@
-// refdraw OUTPUT_DIR: draws the encyclopedia's pictures as PNG files into OUTPUT_DIR and leaves
+// refdraw OUTPUT_DIR CATEGORIES_CSV STYLES_CSV: draws the encyclopedia's pictures as PNG files into OUTPUT_DIR and leaves
 // pictures.stamp there when all were written. The charts are drawn from the program's own tables
 // where it has them (the colour table of the recipe calculations, the hops utilization curves)
 // and otherwise from the brewing data the topics print; the diagrams show equipment in section.
@@ -18,6 +18,8 @@
 
 #include "calculators/HopsUtilization.h"
 #include "recipes/RecipeCalculations.h"
+#include "core/text.h"
+#include "styles/StyleSheets.h"
 
 namespace {
 
@@ -117,7 +119,8 @@ struct Chart {
     c.text(0, 0, yTitle, Qt::AlignHCenter | Qt::AlignVCenter, 12);
     c.p.restore();
   }
-  void curve(const std::function<double(double)>& f, double from, double to, const QColor& col, double width = 2.2) {
+  void curve(const std::function<double(double)>& f, double from, double to, const QColor& col, double width = 2.2,
+             Qt::PenStyle style = Qt::SolidLine) {
     QPainterPath path;
     const int steps = 200;
     for (int i = 0; i <= steps; ++i) {
@@ -127,7 +130,7 @@ struct Chart {
       else path.lineTo(q);
     }
     c.p.save();
-    c.p.setPen(QPen(col, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    c.p.setPen(QPen(col, width, style, Qt::RoundCap, Qt::RoundJoin));
     c.p.setBrush(Qt::NoBrush);
     c.p.drawPath(path);
     c.p.restore();
@@ -215,6 +218,39 @@ bool hopsUtilization(const QString& path) {
     entries.emplace_back(curves[i].name, kSeries[i]);
   }
   legend(c, ch.at(62, 12), entries);
+  return c.save(path);
+}
+
+// The shipped style table as the program loads it, built from the two style sheets.
+zy::StyleTables gStyles;
+
+// Every style of the table at the middle of its gravity and bitterness ranges, in the colour of
+// the middle of its colour range, over the lines of balance (bitterness units per gravity unit).
+bool styleBalance(const QString& path) {
+  Canvas c(460, 300);
+  Chart ch{c, QRectF(58, 16, 382, 234), 1.030, 1.110, 0, 100};
+  ch.axes(0.010, 20, "Original gravity (middle of the style's range)", "Bitterness (IBU)", 0, 3);
+  for (double ratio : {0.5, 1.0}) {
+    ch.curve([ratio](double og) { return (og - 1) * 1000 * ratio; }, 1.030, std::min(1.110, 1 + 0.1 / ratio),
+             kSeries[5], 1.4, Qt::DashLine);
+    const double og = ratio < 1 ? 1.108 : 1.095;
+    QPointF q = ch.at(og, (og - 1) * 1000 * ratio);
+    if (ratio < 1)
+      c.text(q.x(), q.y() - 12, "BU:GU 0.5", Qt::AlignRight | Qt::AlignVCenter, 11, true, kSeries[5]);
+    else
+      c.text(q.x() + 8, q.y() + 4, "BU:GU 1.0", Qt::AlignLeft | Qt::AlignVCenter, 11, true, kSeries[5]);
+  }
+  for (int i = 0; i < zy::kStyleTableRows; ++i) {
+    const zy::BeerStyleRecord& st = gStyles.BeerStyles[i];
+    if (zy::trim(st.styleName).empty() || st.ogHigh <= 1 || st.ibuHigh <= 0) continue;
+    const double og = (st.ogLow + st.ogHigh) / 2, ibu = (st.ibuLow + st.ibuHigh) / 2;
+    if (og < 1.030 || og > 1.110 || ibu > 100) continue;
+    const zy::Rgb rgb = zy::colorTableRow(static_cast<int>(std::lround((st.srmLow + st.srmHigh) / 2)));
+    c.p.setPen(QPen(QColor(90, 90, 90), 0.8));
+    c.p.setBrush(QColor(rgb.r, rgb.g, rgb.b));
+    c.p.drawEllipse(ch.at(og, ibu), 4, 4);
+  }
+  c.text(ch.plot.left() + 8, ch.plot.top() + 10, "Each dot a style, in its color", Qt::AlignLeft, 11);
   return c.save(path);
 }
 
@@ -661,14 +697,31 @@ const Picture kPictures[] = {
     {"sulfate-chloride.png", sulfateChloride},
     {"counterflow-chiller.png", counterflowChiller},
     {"airlock.png", airlock},
+    {"style-balance.png", styleBalance},
 };
+
+bool readWhole(const char* path, std::string& out) {
+  QFile f(QString::fromLocal8Bit(path));
+  if (!f.open(QIODevice::ReadOnly)) return false;
+  out = f.readAll().toStdString();
+  return true;
+}
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 2) {
-    std::fprintf(stderr, "usage: refdraw OUTPUT_DIR\n");
+  if (argc != 4) {
+    std::fprintf(stderr, "usage: refdraw OUTPUT_DIR CATEGORIES_CSV STYLES_CSV\n");
     return 2;
+  }
+  std::string categories, styles, error;
+  if (!readWhole(argv[2], categories) || !readWhole(argv[3], styles)) {
+    std::fprintf(stderr, "refdraw: cannot read %s or %s\n", argv[2], argv[3]);
+    return 1;
+  }
+  if (!zy::buildStyleTablesFromSheets(categories, styles, gStyles, error)) {
+    std::fprintf(stderr, "refdraw: %s\n", error.c_str());
+    return 1;
   }
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QGuiApplication app(argc, argv);
