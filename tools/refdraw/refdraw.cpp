@@ -199,7 +199,7 @@ bool srmScale(const QString& path) {
 
 // The three predefined utilization curves the bitterness computation can use.
 bool hopsUtilization(const QString& path) {
-  Canvas c(440, 280);
+  Canvas c(380, 260);
   struct Curve {
     const char* name;
     const std::array<double, zy::kUtilRows>& rows;
@@ -208,7 +208,7 @@ bool hopsUtilization(const QString& path) {
   double top = 0;
   for (const Curve& cv : curves)
     for (double v : cv.rows) top = std::max(top, v);
-  Chart ch{c, QRectF(58, 16, 362, 214), 0, 90, 0, std::ceil(top / 5) * 5};
+  Chart ch{c, QRectF(58, 16, 302, 194), 0, 90, 0, std::ceil(top / 5) * 5};
   ch.axes(15, 5, "Boil time (minutes)", "Utilization (%)");
   std::vector<std::pair<QString, QColor>> entries;
   for (size_t i = 0; i < 3; ++i) {
@@ -217,7 +217,7 @@ bool hopsUtilization(const QString& path) {
     ch.polyline(pts, kSeries[i]);
     entries.emplace_back(curves[i].name, kSeries[i]);
   }
-  legend(c, ch.at(62, 12), entries);
+  legend(c, ch.at(62, 15), entries);
   return c.save(path);
 }
 
@@ -227,9 +227,9 @@ zy::StyleTables gStyles;
 // Every style of the table at the middle of its gravity and bitterness ranges, in the colour of
 // the middle of its colour range, over the lines of balance (bitterness units per gravity unit).
 bool styleBalance(const QString& path) {
-  Canvas c(460, 300);
-  Chart ch{c, QRectF(58, 16, 382, 234), 1.030, 1.110, 0, 100};
-  ch.axes(0.010, 20, "Original gravity (middle of the style's range)", "Bitterness (IBU)", 0, 3);
+  Canvas c(400, 290);
+  Chart ch{c, QRectF(58, 16, 326, 224), 1.030, 1.110, 0, 100};
+  ch.axes(0.020, 20, "Original gravity (middle of the style's range)", "Bitterness (IBU)", 0, 3);
   for (double ratio : {0.5, 1.0}) {
     ch.curve([ratio](double og) { return (og - 1) * 1000 * ratio; }, 1.030, std::min(1.110, 1 + 0.1 / ratio),
              kSeries[5], 1.4, Qt::DashLine);
@@ -259,8 +259,8 @@ bool styleBalance(const QString& path) {
 // A step mash of modest length: protein rest, two saccharification rests and the mash-out, with
 // the ramps a direct-fired tun manages at about 2 °F a minute.
 bool stepMash(const QString& path) {
-  Canvas c(460, 280);
-  Chart ch{c, QRectF(58, 16, 382, 214), 0, 120, 100, 180};
+  Canvas c(400, 270);
+  Chart ch{c, QRectF(58, 16, 326, 204), 0, 120, 100, 180};
   ch.axes(15, 10, "Time from mashing in (minutes)", "Mash temperature (°F)");
   struct Rest {
     double temp, minutes;
@@ -281,7 +281,7 @@ bool stepMash(const QString& path) {
     pts.emplace_back(t, r.temp);
     temp = r.temp;
     QPointF q = ch.at(mid, r.temp);
-    q.setX(std::max(q.x(), ch.plot.left() + 52));
+    q.setX(std::max(q.x() + 6, ch.plot.left() + 52));
     const int celsius = static_cast<int>(std::lround((r.temp - 32) * 5 / 9));
     // Labels sit under each rest, where the ramps leave room; the short mash-out gets its above.
     const double dy = &r == &rests[3] ? -35 : 0;
@@ -345,8 +345,8 @@ double correctionFactor(double f) {
 // Points to add to a reading of 1.050 taken at a sample temperature, for a hydrometer calibrated
 // at 60 °F and one calibrated at 68 °F.
 bool temperatureCorrection(const QString& path) {
-  Canvas c(440, 280);
-  Chart ch{c, QRectF(58, 16, 362, 214), 40, 160, -5, 25};
+  Canvas c(380, 260);
+  Chart ch{c, QRectF(58, 16, 302, 194), 40, 160, -5, 25};
   ch.axes(20, 5, "Sample temperature (°F)", "Gravity points to add");
   auto pointsToAdd = [](double calibration) {
     return [calibration](double t) { return 1.050 * (correctionFactor(t) / correctionFactor(calibration) - 1) * 1000; };
@@ -365,8 +365,8 @@ double carbonationPsi(double f, double volumes) {
 }
 
 bool forceCarbonation(const QString& path) {
-  Canvas c(440, 280);
-  Chart ch{c, QRectF(58, 16, 320, 214), 32, 52, 0, 30};
+  Canvas c(380, 260);
+  Chart ch{c, QRectF(58, 16, 262, 194), 32, 52, 0, 30};
   ch.axes(4, 5, "Beer temperature (°F)", "Regulator pressure (psi)");
   const double levels[] = {2.0, 2.4, 2.8, 3.2};
   for (int i = 0; i < 4; ++i) {
@@ -382,8 +382,8 @@ bool forceCarbonation(const QString& path) {
 double residualVolumes(double f) { return 3.0378 - 0.050062 * f + 0.00026555 * f * f; }
 
 bool residualCo2(const QString& path) {
-  Canvas c(440, 280);
-  Chart ch{c, QRectF(58, 16, 362, 214), 30, 80, 0.6, 1.8};
+  Canvas c(380, 260);
+  Chart ch{c, QRectF(58, 16, 302, 194), 30, 80, 0.6, 1.8};
   ch.axes(10, 0.2, "Warmest temperature since fermentation (°F)", "Volumes of CO2 in the beer", 1);
   ch.curve(residualVolumes, 30, 80, kSeries[1], 2.6);
   for (double t : {40.0, 60.0, 68.0}) {
@@ -400,8 +400,8 @@ bool residualCo2(const QString& path) {
 
 // Gravity of a typical 1.050 ale through its first two weeks.
 bool fermentationCurve(const QString& path) {
-  Canvas c(460, 280);
-  Chart ch{c, QRectF(62, 30, 376, 200), 0, 14, 1.010, 1.055};
+  Canvas c(400, 260);
+  Chart ch{c, QRectF(62, 30, 320, 180), 0, 14, 1.010, 1.055};
   ch.axes(2, 0.005, "Days after pitching", "Specific gravity", 3);
   // A logistic fall from 1.050 to 1.012, steepest on the third day; flat through the lag.
   auto sg = [](double d) {
@@ -431,8 +431,8 @@ bool fermentationCurve(const QString& path) {
 double platoOf(double sg) { return -616.868 + 1111.14 * sg - 630.272 * sg * sg + 135.997 * sg * sg * sg; }
 
 bool platoGravity(const QString& path) {
-  Canvas c(440, 280);
-  Chart ch{c, QRectF(58, 16, 362, 214), 1.000, 1.120, 0, 30};
+  Canvas c(380, 260);
+  Chart ch{c, QRectF(58, 16, 302, 194), 1.000, 1.120, 0, 30};
   ch.axes(0.020, 5, "Specific gravity", "Degrees Plato (about Brix)", 0, 3);
   ch.curve(platoOf, 1.000, 1.120, kSeries[1], 2.6);
   ch.curve([](double sg) { return (sg - 1) * 1000 / 4; }, 1.000, 1.120, kSeries[0], 1.6);
@@ -442,8 +442,8 @@ bool platoGravity(const QString& path) {
 
 // Alcohol by volume from original and final gravity, the common (OG - FG) x 131.25.
 bool alcoholChart(const QString& path) {
-  Canvas c(440, 280);
-  Chart ch{c, QRectF(58, 16, 362, 214), 1.030, 1.100, 0, 12};
+  Canvas c(380, 260);
+  Chart ch{c, QRectF(58, 16, 302, 194), 1.030, 1.100, 0, 12};
   ch.axes(0.010, 2, "Original gravity", "Alcohol by volume (%)", 0, 3);
   const double finals[] = {1.005, 1.010, 1.015, 1.020};
   std::vector<std::pair<QString, QColor>> entries;
@@ -451,9 +451,9 @@ bool alcoholChart(const QString& path) {
     const double fg = finals[i];
     auto abv = [fg](double og) { return (og - fg) * 131.25; };
     ch.curve(abv, 1.030, std::min(1.100, fg + 12 / 131.25), kSeries[i]);
-    entries.emplace_back(QString("Final gravity %1").arg(fg, 0, 'f', 3), kSeries[i]);
+    entries.emplace_back(QString("FG %1").arg(fg, 0, 'f', 3), kSeries[i]);
   }
-  legend(c, ch.at(1.032, 11.6), entries);
+  legend(c, ch.at(1.075, 4.8), entries);
   return c.save(path);
 }
 
