@@ -73,9 +73,10 @@ std::vector<std::pair<int, double>> NewRecipeDialog::grainBill() const {
   }
 }
 
-long NewRecipeDialog::cmdOK(RecipeEditor& editor, MaltFormulator& formulator, const FindInvItem& findInvItem) {
+long NewRecipeDialog::cmdOK(RecipeEditor& editor, MaltFormulator& formulator, const FindInvItem& findInvItem,
+                            const RecipeOpenHooks* hooks) {
   // 1. A new recipe, shown in the editor.
-  const long slot = wb_.recipeList.mnuFileNew_Click(wb_);
+  const long slot = hooks ? wb_.recipeList.newRecipe(wb_, *hooks) : wb_.recipeList.mnuFileNew_Click(wb_);
   if (slot < 1) return 0;
   RecipeRecord& rec = wb_.recipe.rec;
   // 3. Mash type and efficiency (before the editor shows the record).

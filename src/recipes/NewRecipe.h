@@ -11,6 +11,7 @@
 namespace zy {
 
 class MaltFormulator;
+struct RecipeOpenHooks;
 class RecipeEditor;
 class Workbench;
 
@@ -59,8 +60,10 @@ class NewRecipeDialog {
 
   // OK: a new recipe in the editor titled after the style, its mash type and efficiency, the
   // formulator opened on the bill with the style's midpoints as targets. Returns the new recipe's
-  // record number (0 when no slot was free).
-  long cmdOK(RecipeEditor& editor, MaltFormulator& formulator, const FindInvItem& findInvItem = noInventory);
+  // record number (0 when no slot was free). With the editor's hooks, a changed recipe in the
+  // editor is first offered for saving, and "Cancel" ends the action with 0.
+  long cmdOK(RecipeEditor& editor, MaltFormulator& formulator, const FindInvItem& findInvItem = noInventory,
+             const RecipeOpenHooks* hooks = nullptr);
 
   std::string lblStyle;  // the style's name
   double ogLow = 0, ogHigh = 0, srmLow = 0, srmHigh = 0;

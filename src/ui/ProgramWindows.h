@@ -21,6 +21,11 @@ class frmHopsUtilization;
 class frmUnitMashData;
 class frmStyleMatch;
 class frmBeerStyles;
+class frmWaterMgmt;
+class frmWaterTreatment;
+class frmMash;
+class frmAdvMaltFormulator;
+class frmStarter;
 
 class ProgramWindows : public QObject {
   Q_OBJECT
@@ -40,6 +45,11 @@ class ProgramWindows : public QObject {
   frmUnitMashData& unitMashData();
   frmStyleMatch& styleMatch();
   frmBeerStyles& beerStyles();
+  frmWaterMgmt& waterMgmt();
+  frmWaterTreatment& waterTreatment();
+  frmMash& mash();
+  frmAdvMaltFormulator& maltFormulator();
+  frmStarter& starter();
 
   // What the menus and buttons do.
   void showRecipeList();
@@ -55,6 +65,11 @@ class ProgramWindows : public QObject {
   void openStyleFilter();
   // The style browser, on the named style when one is given.
   void showBeerStyles(const std::string& styleName = "");
+  // The brewing calculators, each filled from the open recipe when it is shown.
+  void showCalculator(QWidget& w);
+  // A new recipe for the style of row `styleRow`: the dialog, then the editor and the malt
+  // formulator on the style's grain bill.
+  void openNewRecipe(int styleRow);
   // Closes every window that was created (they close for good while appClosing is set).
   void closeAll();
 
@@ -64,6 +79,9 @@ class ProgramWindows : public QObject {
  private:
   void showHelpTopic(const QString& page);
   void openProperties(QWidget* over);
+  // A calculator handed a result to the recipe: the editor and its companions repaint.
+  void recipeChangedByTool();
+  void closeCalculators();
 
   Workbench& wb_;
   frmMain& main_;
@@ -77,6 +95,12 @@ class ProgramWindows : public QObject {
   QPointer<frmComments> comments_;
   QPointer<frmUnitMashData> unitMashData_;
   QPointer<frmStyleMatch> styleMatch_;
+  // The calculators belong to the editor's window too.
+  QPointer<frmWaterMgmt> waterMgmt_;
+  QPointer<frmWaterTreatment> waterTreatment_;
+  QPointer<frmMash> mash_;
+  QPointer<frmAdvMaltFormulator> maltFormulator_;
+  QPointer<frmStarter> starter_;
 };
 
 }  // namespace zy

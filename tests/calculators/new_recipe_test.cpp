@@ -78,3 +78,24 @@ TEST(NewRecipeFromStyle, OkStartsTheRecipeAndSeedsTheFormulator) {
   EXPECT_EQ(f.lvMalts[1].name, "Black Malt");
   EXPECT_EQ(f.lvMalts[1].cost, "$2.50");
 }
+
+TEST(NewRecipeFromStyle, AChangedRecipeIsOfferedForSavingFirst) {
+  CalcBench cb;
+  cb.open({CalcBench::pale()});
+  cb.wb.styles.BeerStyles[0].styleName = "Mild";
+  cb.wb.styles.BeerStyleCount = 1;
+  cb.editor.recChanged();
+  MaltFormulator f(cb.editor);
+  f.load();
+  NewRecipeDialog d(cb.wb);
+  d.setStyle(0);
+  const RecipeOpenHooks hooks = cb.editor.openHooks();
+  cb.b.prompter.answers = {Answer::Cancel};
+  EXPECT_EQ(d.cmdOK(cb.editor, f, noInventory, &hooks), 0);
+  EXPECT_EQ(shownLines(cb.b.prompter), std::vector<std::string>{"Save Recipe: Recipe has Changed, Save Changes?"});
+  EXPECT_EQ(f.lvMalts.size(), 1u);  // nothing replaced
+  cb.b.prompter.answers = {Answer::No};
+  EXPECT_GT(d.cmdOK(cb.editor, f, noInventory, &hooks), 0);
+  EXPECT_EQ(cb.editor.txtTitle, "New Mild Recipe");
+  EXPECT_EQ(f.lvMalts.size(), 2u);
+}
