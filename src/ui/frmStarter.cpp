@@ -17,7 +17,7 @@
 namespace zy {
 
 frmStarter::frmStarter(Workbench& wb, RecipeEditor& editor, QWidget* parent)
-    : CalcWindow(wb, kSection, kHelpPage, QSize(520, 330), parent), model(editor), editor_(editor) {
+    : CalcWindow(wb, kSection, kHelpPage, QSize(560, 290), parent), model(editor), editor_(editor) {
   setObjectName("frmStarter");
   setWindowTitle(StarterCalculator::kCaption);
 
@@ -80,6 +80,7 @@ frmStarter::frmStarter(Workbench& wb, RecipeEditor& editor, QWidget* parent)
   results->addWidget(cmdAddYeast, 0, 1);
   results->addWidget(lblKbox, 1, 0);
   results->addWidget(cmdAddKraeusen, 1, 1);
+  results->setColumnStretch(0, 1);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(cmdHelp);
   buttons->addStretch();

@@ -1,6 +1,7 @@
 #include "ui/frmWaterMgmt.h"
 
 #include <QCheckBox>
+#include <algorithm>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -32,9 +33,19 @@ void WaterReportChart::paintEvent(QPaintEvent*) {
   p.setPen(QColor(160, 160, 160));
   p.drawRect(rect().adjusted(0, 0, -1, -1));
   const int lines = static_cast<int>(model_.report.size());
-  // The text grows with the chart, within reason.
+  // The text grows with the chart, within reason, and shrinks until the longest line fits.
   QFont f = font();
   f.setPointSizeF(std::clamp(height() / (lines + 4.0) * 0.45, 7.0, 13.0));
+  auto widest = [&](const QFontMetrics& m) {
+    int caption = 0, value = 0, tail = 0;
+    for (const WaterReportLine& l : model_.report) {
+      caption = std::max(caption, m.horizontalAdvance(qs(l.caption)));
+      value = std::max(value, m.horizontalAdvance(qs(l.value)));
+      tail = std::max(tail, m.horizontalAdvance(" " + qs(l.units) + qs(l.flag)));
+    }
+    return 12 + caption + m.horizontalAdvance("  ") + value + tail + 8;
+  };
+  while (f.pointSizeF() > 6.0 && widest(QFontMetrics(f)) > width()) f.setPointSizeF(f.pointSizeF() - 0.5);
   QFont head = f;
   head.setBold(true);
   head.setPointSizeF(f.pointSizeF() * 1.25);

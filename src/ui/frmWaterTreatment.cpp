@@ -47,17 +47,19 @@ void plainGrid(QTableWidget* t) {
   t->setSelectionMode(QAbstractItemView::NoSelection);
   t->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   t->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  t->setFocusPolicy(Qt::NoFocus);
+  t->horizontalHeader()->setFixedHeight(t->fontMetrics().height() + 10);
 }
 
 int gridHeight(QTableWidget* t) {
-  int h = t->horizontalHeader()->isVisible() ? t->horizontalHeader()->sizeHint().height() : 0;
+  int h = t->horizontalHeader()->isHidden() ? 0 : t->horizontalHeader()->height();
   for (int r = 0; r < t->rowCount(); ++r) h += t->rowHeight(r);
   return h + 2 * t->frameWidth();
 }
 }  // namespace
 
 frmWaterTreatment::frmWaterTreatment(Workbench& wb, RecipeEditor& editor, QWidget* parent)
-    : CalcWindow(wb, WaterTreatment::kSection, kHelpPage, QSize(980, 470), parent), model(editor), editor_(editor) {
+    : CalcWindow(wb, WaterTreatment::kSection, kHelpPage, QSize(800, 430), parent), model(editor), editor_(editor) {
   setObjectName("frmWaterTreatment");
   setWindowTitle(WaterTreatment::kCaption);
 
@@ -112,6 +114,7 @@ frmWaterTreatment::frmWaterTreatment(Workbench& wb, RecipeEditor& editor, QWidge
   for (int c = 1; c <= kIonCount; ++c) grdTotals->setColumnWidth(c, kIonWidth);
   for (int r = 0; r < 4; ++r) grdTotals->setRowHeight(r, 24);
   grdTotals->setEditTriggers(QAbstractItemView::AllEditTriggers);
+  grdTotals->setFocusPolicy(Qt::StrongFocus);  // the target row is typed in
   grdTotals->setToolTip(tr("Type a target in the row of target concentrations to make a water of your own"));
   grdTotals->setFixedHeight(gridHeight(grdTotals));
   connect(grdTotals, &QTableWidget::itemChanged, this, [this](QTableWidgetItem* it) {
