@@ -193,9 +193,9 @@ frmMash::frmMash(Workbench& wb, RecipeEditor& editor, QWidget* parent)
   });
   lblTime = new QLabel(tr("&Time:"), this);
   lblTime->setBuddy(txtTime);
-  lblTemp = new QLabel(tr("Te&mp:"), this);
+  lblTemp = new QLabel(tr("Tem&p:"), this);
   lblTemp->setBuddy(txtTemp);
-  lblComment = new QLabel(tr("C&omment:"), this);
+  lblComment = new QLabel(tr("Co&mment:"), this);
   lblComment->setBuddy(txtComment);
 
   plotMash = new MashChart(model, this);
@@ -203,7 +203,7 @@ frmMash::frmMash(Workbench& wb, RecipeEditor& editor, QWidget* parent)
   cmdOK = button(tr("&OK"), "cmdOK", tr("Store the steps in the recipe"));
   cmdCancel = button(tr("&Cancel"), "cmdCancel", tr("Close; a changed schedule is offered for saving"));
   cmdHelp = button(tr("&Help"), "cmdHelp", tr("Help on the mash schedule (F1)"));
-  cmdUnitMash = button(tr("Units/Mash &Data..."), "cmdUnitMash",
+  cmdUnitMash = button(tr("Units/Mash Dat&a..."), "cmdUnitMash",
                        tr("The recipe's unit system, mash type, mash efficiency and boil time"));
   connect(cmdOK, &QPushButton::clicked, this, &frmMash::cmdOK_Click);
   connect(cmdCancel, &QPushButton::clicked, this, &QWidget::close);

@@ -41,7 +41,7 @@ frmStarter::frmStarter(Workbench& wb, RecipeEditor& editor, QWidget* parent)
   auto* levels = new QGroupBox(tr("Carbonation Level"), this);
   auto* levelRow = new QHBoxLayout(levels);
   auto* group = new QButtonGroup(this);
-  const char* captions[] = {"&Low", "&Medium", "&High"};
+  const char* captions[] = {"&Low", "&Medium", "H&igh"};
   for (int k = 0; k < 3; ++k) {
     optLevel[k] = new QRadioButton(tr(captions[k]), levels);
     optLevel[k]->setObjectName(QString("optLevel%1").arg(k));

@@ -149,7 +149,7 @@ frmWaterMgmt::frmWaterMgmt(Workbench& wb, RecipeEditor& editor, QWidget* parent)
   addRow(tr("Sparge &temperature:"), txtSpargeTemp, lblTempUnits);
   addRow(tr("&Boil time:"), txtBoilTime, lblTimeUnits);
   addRow(tr("Add to &kettle:"), txtAddToKettle, lblVolumeUnits);
-  addRow(tr("Add to &primary:"), txtAddToPrimary, lblVolumeUnits2);
+  addRow(tr("Add to p&rimary:"), txtAddToPrimary, lblVolumeUnits2);
   addRow(tr("Target boil volume:"), lblTargetInitialVolume, lblVolumeUnits3);
   addRow(tr("Target final volume:"), lblTargetFinalVolume, lblVolumeUnits4);
   g->addWidget(chkHoldInitialVolume, row++, 0, 1, 3);

@@ -175,7 +175,7 @@ frmWaterTreatment::frmWaterTreatment(Workbench& wb, RecipeEditor& editor, QWidge
     model.optIncrement(model.IncrementMode);  // a new step takes effect at once
   });
 
-  auto* famousLabel = new QLabel(tr("&Target water:"), this);
+  auto* famousLabel = new QLabel(tr("Target &water:"), this);
   famousLabel->setBuddy(cboFamous);
   auto* top = new QHBoxLayout;
   top->addWidget(famousLabel);

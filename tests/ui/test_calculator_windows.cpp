@@ -244,5 +244,27 @@ TEST(CalculatorWindows, NewRecipeFromAStyleOpensTheEditorAndTheFormulator) {
   EXPECT_EQ(f.txtTargetColor->text(), "13.5");
 }
 
+TEST(CalculatorWindows, AccessKeysAreDistinctAndPlacesAreRemembered) {
+  CalcWindows b;
+  b.r().mnuInstructWaterMgmt->trigger();
+  b.r().mnuToolsWaterTreatment->trigger();
+  b.r().mnuInstructMashInfo->trigger();
+  b.r().mnuToolsAdvanced->trigger();
+  b.r().mnuToolsStarterKraeusening->trigger();
+  dlgNewRecipe d(*b.wb, 0);
+  for (QWidget* w : std::initializer_list<QWidget*>{&b.windows->waterMgmt(), &b.windows->waterTreatment(),
+                                                    &b.windows->mash(), &b.windows->maltFormulator(),
+                                                    &b.windows->starter(), &d}) {
+    EXPECT_EQ(accessKeyClashes(w), std::vector<std::string>{}) << w->objectName().toStdString();
+    w->close();
+  }
+  for (const char* section : {"Water Management", "Water Treatment", "Mash Information", "Malt Formulator", "Starter"})
+    EXPECT_NE(b.settings.read(section, "MainWidth", ""), "") << section;
+  // Closing the editor closes the calculators with it.
+  b.r().mnuInstructMashInfo->trigger();
+  b.r().close();
+  EXPECT_FALSE(b.windows->mash().isVisible());
+}
+
 }  // namespace
 }  // namespace zy::test
