@@ -2,7 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDoubleValidator>
+#include <QRegularExpressionValidator>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
@@ -47,11 +47,7 @@ QLineEdit* CalcWindow::numberBox(const char* name, const QString& tip, int width
   e->setToolTip(tip);
   e->setMaximumWidth(width);
   e->setAlignment(Qt::AlignRight);
-  // Only the keys of a number get in, as in every number box of the program.
-  auto* v = new QDoubleValidator(e);
-  v->setNotation(QDoubleValidator::StandardNotation);
-  v->setLocale(QLocale::c());
-  e->setValidator(v);
+  e->setValidator(numberKeys(e));
   static SelectAllOnFocus* filter = nullptr;
   if (!filter) filter = new SelectAllOnFocus(qApp);
   e->installEventFilter(filter);
@@ -105,6 +101,12 @@ void CalcWindow::keyPressEvent(QKeyEvent* event) {
     return;
   }
   QWidget::keyPressEvent(event);
+}
+
+QValidator* numberKeys(QObject* parent) {
+  // Any text made of a number's keys is let through, an empty one too, so that leaving a box
+  // always reformats it.
+  return new QRegularExpressionValidator(QRegularExpression("-?[0-9]*\\.?[0-9]*"), parent);
 }
 
 void setBoxText(QLineEdit* box, const std::string& text8bit) {

@@ -11,6 +11,7 @@
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class QValidator;
 
 namespace zy {
 
@@ -51,6 +52,9 @@ class CalcWindow : public QWidget {
   bool placed_ = false;
   frmHelp* help_ = nullptr;
 };
+
+// Only the keys of a number get into a box, as in every number box of the program.
+QValidator* numberKeys(QObject* parent);
 
 // Sets a box's text only when it differs, so that the caret of a box being typed in stays put.
 void setBoxText(QLineEdit* box, const std::string& text8bit);

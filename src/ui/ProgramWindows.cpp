@@ -244,8 +244,10 @@ void ProgramWindows::openNewRecipe(int styleRow) {
   dlg.create = [this](NewRecipeDialog& m) {
     frmRecipe& r = recipe();
     frmAdvMaltFormulator& f = maltFormulator();
-    // A formulator still open on the old recipe is closed first (it may ask to export).
+    // A formulator still open on the old recipe is closed first (it may ask to export, and
+    // Cancel there ends the action).
     f.close();
+    if (f.isVisible()) return false;
     const RecipeOpenHooks hooks = r.editor().openHooks();
     if (m.cmdOK(r.editor(), f.model, noInventory, &hooks) < 1) return false;
     showRecipe();

@@ -1,7 +1,6 @@
 #include "ui/frmAdvMaltFormulator.h"
 
 #include <QCloseEvent>
-#include <QDoubleValidator>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -21,6 +20,7 @@
 #include "core/measures.h"
 #include "core/numfmt.h"
 #include "recipes/RecipeEditor.h"
+#include "ui/CalcWindow.h"
 #include "ui/QtPrompter.h"
 #include "ui/RecipeIcons.h"
 #include "ui/TopicIcons.h"
@@ -38,12 +38,7 @@ QLineEdit* box(QWidget* parent, const char* name, const QString& tip, bool readO
   e->setMaximumWidth(70);
   e->setAlignment(Qt::AlignRight);
   e->setReadOnly(readOnly);
-  if (!readOnly) {
-    auto* v = new QDoubleValidator(e);
-    v->setNotation(QDoubleValidator::StandardNotation);
-    v->setLocale(QLocale::c());
-    e->setValidator(v);
-  }
+  if (!readOnly) e->setValidator(numberKeys(e));
   return e;
 }
 
