@@ -17,6 +17,10 @@
 #include "ui/frmComments.h"
 #include "ui/frmFermentation.h"
 #include "ui/frmHelp.h"
+#include "ui/frmInvCheck.h"
+#include "ui/frmInventory.h"
+#include "ui/frmShoppingLst.h"
+#include "inventory/InventoryStartup.h"
 #include "ui/frmMain.h"
 #include "ui/frmProperties.h"
 #include "ui/frmRecipe.h"
@@ -36,6 +40,8 @@ void bringForward(QWidget& w) {
 ProgramWindows::ProgramWindows(Workbench& wb, frmMain& main) : wb_(wb), main_(main) {
   main.setChildOpener(frmMain::Child::RecipeList, [this] { showRecipeList(); });
   main.setChildOpener(frmMain::Child::BeerStyles, [this] { showBeerStyles(); });
+  main.setChildOpener(frmMain::Child::Inventory, [this] { showInventory(false); });
+  main.setChildOpener(frmMain::Child::ShoppingList, [this] { showShoppingList(); });
   main.installEventFilter(this);
 }
 
@@ -43,6 +49,9 @@ ProgramWindows::~ProgramWindows() {
   // The editor's window takes its companions with it; the list forgets the tree's refresh.
   beerStyles_.reset();
   hopsUtilization_.reset();
+  invCheck_.reset();
+  inventory_.reset();
+  shoppingList_.reset();
   recipe_.reset();
   recipeList_.reset();
 }
@@ -89,6 +98,11 @@ frmRecipe& ProgramWindows::recipe() {
       r.editor().recChanged();
       r.refreshSaveButton();
     };
+    r.setToolOpener(RecipeTool::InventoryLists, [this] { showInventory(false); });
+    r.setToolOpener(RecipeTool::FromInventory, [this] { showInventory(true); });
+    r.setToolOpener(RecipeTool::ShopListAdd, [this] { addRecipeToShoppingList(); });
+    r.setToolOpener(RecipeTool::ShopListCheck, [this] { showInvCheck(); });
+    r.setToolOpener(RecipeTool::ShopListDisplay, [this] { showShoppingList(); });
     // The companions close with the editor.
     connect(&r, &frmRecipe::closed, this, [this] {
       if (fermentation_) fermentation_->close();
@@ -290,6 +304,62 @@ void ProgramWindows::showBeerStyles(const std::string& styleName) {
   bringForward(b);
 }
 
+frmInventory& ProgramWindows::inventory() {
+  if (!inventory_) {
+    inventory_ = std::make_unique<frmInventory>(wb_);
+    frmInventory& w = *inventory_;
+    w.showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
+    w.recipeChanged = [this] {
+      if (recipe_) recipe_->refreshFromModel();
+    };
+    w.shoppingChanged = [this] {
+      if (shoppingList_) shoppingList_->refreshFromModel();
+    };
+  }
+  return *inventory_;
+}
+
+frmShoppingLst& ProgramWindows::shoppingList() {
+  if (!shoppingList_) {
+    shoppingList_ = std::make_unique<frmShoppingLst>(wb_);
+    shoppingList_->showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
+  }
+  return *shoppingList_;
+}
+
+frmInvCheck& ProgramWindows::invCheck() {
+  if (!invCheck_) {
+    invCheck_ = std::make_unique<frmInvCheck>(wb_, recipe().editor());
+    invCheck_->shoppingChanged = [this] { showShoppingList(); };
+  }
+  return *invCheck_;
+}
+
+void ProgramWindows::showInventory(bool toPickIngredients) {
+  frmInventory& w = inventory();
+  w.setAddToRecipe(toPickIngredients ? &recipe().editor() : nullptr);
+  w.refreshFromModel();
+  bringForward(w);
+}
+
+void ProgramWindows::showShoppingList() {
+  frmShoppingLst& w = shoppingList();
+  w.refreshFromModel();
+  bringForward(w);
+}
+
+void ProgramWindows::addRecipeToShoppingList() {
+  wb_.shopping.addRecipe(recipe().editor().sheet.grid);
+  keepShoppingList(wb_);
+  showShoppingList();
+}
+
+void ProgramWindows::showInvCheck() {
+  frmInvCheck& w = invCheck();
+  w.refresh();
+  bringForward(w);
+}
+
 void ProgramWindows::showRecipeList() { bringForward(recipeList()); }
 
 void ProgramWindows::showRecipe() {
@@ -324,6 +394,9 @@ void ProgramWindows::closeAll() {
   if (hopsUtilization_) hopsUtilization_->close();
   if (styleMatch_) styleMatch_->close();
   if (unitMashData_) unitMashData_->close();
+  if (invCheck_) invCheck_->close();
+  if (inventory_) inventory_->close();
+  if (shoppingList_) shoppingList_->close();
   if (comments_) comments_->close();
   if (fermentation_) fermentation_->close();
   if (scale_) scale_->close();

@@ -26,6 +26,9 @@ class frmWaterTreatment;
 class frmMash;
 class frmAdvMaltFormulator;
 class frmStarter;
+class frmInventory;
+class frmShoppingLst;
+class frmInvCheck;
 
 class ProgramWindows : public QObject {
   Q_OBJECT
@@ -50,6 +53,9 @@ class ProgramWindows : public QObject {
   frmMash& mash();
   frmAdvMaltFormulator& maltFormulator();
   frmStarter& starter();
+  frmInventory& inventory();
+  frmShoppingLst& shoppingList();
+  frmInvCheck& invCheck();
 
   // What the menus and buttons do.
   void showRecipeList();
@@ -70,6 +76,12 @@ class ProgramWindows : public QObject {
   // A new recipe for the style of row `styleRow`: the dialog, then the editor and the malt
   // formulator on the style's grain bill.
   void openNewRecipe(int styleRow);
+  // The inventory; `toPickIngredients` opens it in its "Add To Recipe" mode for the editor.
+  void showInventory(bool toPickIngredients);
+  void showShoppingList();
+  // The editor's whole recipe goes to the shopping list, which comes forward.
+  void addRecipeToShoppingList();
+  void showInvCheck();
   // Closes every window that was created (they close for good while appClosing is set).
   void closeAll();
 
@@ -101,6 +113,9 @@ class ProgramWindows : public QObject {
   QPointer<frmMash> mash_;
   QPointer<frmAdvMaltFormulator> maltFormulator_;
   QPointer<frmStarter> starter_;
+  std::unique_ptr<frmInventory> inventory_;
+  std::unique_ptr<frmShoppingLst> shoppingList_;
+  std::unique_ptr<frmInvCheck> invCheck_;
 };
 
 }  // namespace zy
