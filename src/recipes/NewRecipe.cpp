@@ -4,6 +4,7 @@
 #include "core/measures.h"
 #include "core/numfmt.h"
 #include "core/text.h"
+#include "inventory/InventoryStore.h"
 #include "recipes/RecipeEditor.h"
 #include "workbench/Workbench.h"
 
@@ -71,6 +72,18 @@ std::vector<std::pair<int, double>> NewRecipeDialog::grainBill() const {
       if (band == 1) return {{PALE, 70}, {CRYSTAL_60, 30}};
       return {{PALE, 95}, {BLACK_PATENT, 5}};
   }
+}
+
+FindInvItem inventoryMaltFinder(const Inventory& inventory) {
+  return [&inventory](double from, double to, bool mash, const std::string&) -> std::optional<InventoryMalt> {
+    const InventoryList& malts = inventory.list(INV_MALT);
+    for (const InventoryRow& row : malts.rows) {
+      const InventoryItem item = inventoryItemFromRow(INV_MALT, row);
+      if (item.color >= from && item.color <= to && (item.mash != 0) == mash)
+        return InventoryMalt{trim(item.name), item.cost, item.color, item.extract};
+    }
+    return std::nullopt;
+  };
 }
 
 long NewRecipeDialog::cmdOK(RecipeEditor& editor, MaltFormulator& formulator, const FindInvItem& findInvItem,

@@ -11,6 +11,7 @@
 namespace zy {
 
 class MaltFormulator;
+struct Inventory;
 struct RecipeOpenHooks;
 class RecipeEditor;
 class Workbench;
@@ -32,11 +33,13 @@ struct InventoryMalt {
   std::string name;
   double cost = 0, color = 0, extraction = 0;
 };
-// The inventory's look-up: the first malt in the colour range with the mash flag. The inventory
-// is not kept yet, so the program's look-up finds nothing and every row is a preset.
+// The inventory's look-up: the first malt in the colour range with the mash flag.
 using FindInvItem = std::function<std::optional<InventoryMalt>(double colorFrom, double colorTo, bool mash,
                                                                const std::string& name)>;
 std::optional<InventoryMalt> noInventory(double, double, bool, const std::string&);
+// The look-up over the inventory's malt list, in the order the list holds: the first malt whose
+// colour lies in the range (ends included) and whose mash flag is the one asked for.
+FindInvItem inventoryMaltFinder(const Inventory& inventory);
 
 class NewRecipeDialog {
  public:

@@ -1,6 +1,7 @@
 #include "ui/ProgramWindows.h"
 
 #include <QEvent>
+#include <QInputDialog>
 
 #include "ui/dlgFilterBeerStyles.h"
 #include "ui/dlgNewRecipe.h"
@@ -25,6 +26,8 @@
 #include "ui/frmProperties.h"
 #include "ui/frmRecipe.h"
 #include "ui/frmRecipeList.h"
+#include "ui/QtPrompter.h"
+#include "core/text.h"
 
 namespace zy {
 
@@ -223,6 +226,21 @@ frmAdvMaltFormulator& ProgramWindows::maltFormulator() {
     maltFormulator_ = new frmAdvMaltFormulator(wb_, recipe().editor(), &recipe());
     maltFormulator_->applied = [this] { recipeChangedByTool(); };
     maltFormulator_->openHelp = [this](const QString& page) { showHelpTopic(page); };
+    // Malts come from the inventory's malt list, picked by name.
+    maltFormulator_->setAddFromInventory([this](MaltFormulator& m) {
+      const InventoryList& malts = wb_.inventory.list(INV_MALT);
+      if (malts.empty()) {
+        wb_.prompter.message("There are no malts in the inventory", "Add To Recipe", Icon::Information, Buttons::OK);
+        return;
+      }
+      QStringList names;
+      for (const InventoryRow& row : malts.rows) names << qs(trim(row.cells.empty() ? std::string() : row.cells[0]));
+      bool ok = false;
+      const QString chosen =
+          QInputDialog::getItem(maltFormulator_, "Add To Recipe", "Malt from the inventory:", names, 0, false, &ok);
+      const qsizetype at = names.indexOf(chosen);
+      if (ok && at >= 0) m.addInventoryMalt(INV_MALT, inventoryItemFromRow(INV_MALT, malts.rows[static_cast<size_t>(at)]));
+    });
   }
   return *maltFormulator_;
 }
@@ -263,7 +281,7 @@ void ProgramWindows::openNewRecipe(int styleRow) {
     f.close();
     if (f.isVisible()) return false;
     const RecipeOpenHooks hooks = r.editor().openHooks();
-    if (m.cmdOK(r.editor(), f.model, noInventory, &hooks) < 1) return false;
+    if (m.cmdOK(r.editor(), f.model, inventoryMaltFinder(wb_.inventory), &hooks) < 1) return false;
     showRecipe();
     f.keepModelAtNextShow();
     bringForward(f);

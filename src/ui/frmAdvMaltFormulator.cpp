@@ -30,6 +30,7 @@ namespace zy {
 
 namespace {
 constexpr const char* kAddMissing = "Adding malts from the inventory comes with the inventory window";
+constexpr const char* kAddTip = "Add a malt from the inventory";
 
 QLineEdit* box(QWidget* parent, const char* name, const QString& tip, bool readOnly = false) {
   auto* e = new QLineEdit(parent);
@@ -281,7 +282,7 @@ void frmAdvMaltFormulator::setAddFromInventory(std::function<void(MaltFormulator
   const bool on = static_cast<bool>(addFromInventory);
   mnuEditAdd->setEnabled(on);
   tb["Add"]->setEnabled(on);
-  const QString tip = on ? tr("Add a malt from the inventory") : tr(kAddMissing);
+  const QString tip = on ? tr(kAddTip) : tr(kAddMissing);
   mnuEditAdd->setToolTip(tip);
   tb["Add"]->setToolTip(tip);
 }

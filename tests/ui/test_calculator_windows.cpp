@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QInputDialog>
 #include <QTableWidget>
 #include <QToolButton>
 #include <QLabel>
@@ -13,6 +14,7 @@
 #include <QTreeWidget>
 
 #include "core/numfmt.h"
+#include "inventory/InventoryStore.h"
 #include "ui/RecipeBench.h"
 #include "ui/RecipeIcons.h"
 #include "ui/dlgNewRecipe.h"
@@ -170,7 +172,6 @@ TEST(CalculatorWindows, FormulatorSolveAndExportReplaceTheMalts) {
   b.r().mnuToolsAdvanced->trigger();
   frmAdvMaltFormulator& w = b.windows->maltFormulator();
   ASSERT_TRUE(w.isVisible());
-  EXPECT_FALSE(w.tb["Add"]->isEnabled());
   EXPECT_EQ(w.lblQuantity->text(), "Malt Formulation for 5.0 US Gallons");
   // Nothing computed: nothing to export.
   w.tb["Save"]->trigger();
@@ -195,6 +196,20 @@ TEST(CalculatorWindows, FormulatorSolveAndExportReplaceTheMalts) {
   QTest::keyClicks(w.txtPct, "9");
   w.tb["Calculate1"]->trigger();
   EXPECT_EQ(shownLines(b.prompter).back(), "Error: Percentages must total to 100% for this calculation");
+  // Add picks a malt of the inventory by name.
+  InventoryItem otter;
+  otter.name = "Maris Otter", otter.color = 3.5, otter.extract = 1.038, otter.mash = 1;
+  b.wb->inventory.list(INV_MALT).rows.push_back({"new", inventoryRowCells(INV_MALT, otter, "")});
+  whenModalOpens([](QWidget* d) {
+    auto* pick = qobject_cast<QInputDialog*>(d);
+    ASSERT_NE(pick, nullptr);
+    EXPECT_EQ(pick->windowTitle(), "Add To Recipe");
+    pick->setTextValue("Maris Otter");
+    pick->accept();
+  });
+  w.tb["Add"]->trigger();
+  ASSERT_EQ(w.lvMalts->topLevelItemCount(), 5);
+  EXPECT_EQ(w.lvMalts->topLevelItem(4)->text(frmAdvMaltFormulator::COL_COLOR), "3.5");
 }
 
 TEST(CalculatorWindows, StarterAddsThePrimingComment) {
