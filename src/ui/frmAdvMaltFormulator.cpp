@@ -159,7 +159,7 @@ frmAdvMaltFormulator::frmAdvMaltFormulator(Workbench& wb, RecipeEditor& editor, 
   lvMalts->setRootIsDecorated(false);
   lvMalts->setHeaderLabels({tr("Malt"), tr("Target %"), tr("Computed %"), tr("Quantity"), tr("Units"),
                             tr("Extraction"), tr("Color"), tr("Cost"), tr("Mash")});
-  lvMalts->setColumnWidth(COL_MALT, 220);
+  lvMalts->setColumnWidth(COL_MALT, 190);
   for (int c = COL_TARGET; c <= COL_MASH; ++c) lvMalts->setColumnWidth(c, c == COL_COMPUTED ? 96 : 78);
   lvMalts->setToolTip(tr("The malts; choose one to edit its target percent"));
   connect(lvMalts, &QTreeWidget::currentItemChanged, this, [this] {
