@@ -469,13 +469,13 @@ bool famousWaters(const QString& path) {
   }
   struct City {
     const char* name;
-    double ca, so4, cl, hco3;
+    double ca, so4, cl, co3;
   };
-  const City cities[] = {{"Pilsen", 7, 5, 5, 15},       {"Munich", 75, 10, 2, 150},  {"London", 52, 32, 34, 104},
-                         {"Dublin", 118, 54, 19, 319},  {"Vienna", 200, 125, 12, 120}, {"Burton", 295, 725, 25, 300}};
+  const City cities[] = {{"Pilsen", 7, 5, 5, 15},      {"Munich", 75, 10, 2, 200},   {"London", 90, 24, 10, 82},
+                         {"Dublin", 115, 55, 19, 200}, {"Vienna", 200, 125, 12, 120}, {"Burton", 295, 725, 25, 300}};
   const QColor ions[] = {QColor(120, 150, 200), QColor(210, 160, 60), QColor(90, 160, 110), QColor(170, 90, 80)};
   for (int i = 0; i < 6; ++i) {
-    const double v[] = {cities[i].ca, cities[i].so4, cities[i].cl, cities[i].hco3};
+    const double v[] = {cities[i].ca, cities[i].so4, cities[i].cl, cities[i].co3};
     for (int k = 0; k < 4; ++k) {
       QPointF top = ch.at(i + 0.14 + k * 0.18, v[k]), base = ch.at(i + 0.14 + (k + 1) * 0.18, 0);
       c.p.setPen(Qt::NoPen);
@@ -491,7 +491,7 @@ bool famousWaters(const QString& path) {
   c.p.rotate(-90);
   c.text(0, 0, "ppm", Qt::AlignHCenter, 12);
   c.p.restore();
-  const char* names[] = {"Calcium", "Sulfate", "Chloride", "Bicarbonate"};
+  const char* names[] = {"Calcium", "Sulfate", "Chloride", "Carbonate"};
   double lx = 70;
   for (int k = 0; k < 4; ++k) {
     c.p.fillRect(QRectF(lx, 262, 12, 12), ions[k]);
