@@ -102,7 +102,7 @@ frmBeerStyles::frmBeerStyles(Workbench& wb, QWidget* parent)
   QMenu* file = menuBar()->addMenu(tr("&File"));
   mnuFileNewStyle = file->addAction(tr("&New Style..."), this, &frmBeerStyles::newStyle);
   mnuFileNewStyle->setShortcut(QKeySequence::New);
-  mnuFileChangeStyle = file->addAction(tr("&Change Style..."), this, &frmBeerStyles::changeStyle);
+  mnuFileChangeStyle = file->addAction(tr("C&hange Style..."), this, &frmBeerStyles::changeStyle);
   mnuFileDeleteStyle = file->addAction(tr("&Delete Style"), this, &frmBeerStyles::deleteStyle);
   mnuFileDeleteStyle->setShortcut(QKeySequence::Delete);
   file->addSeparator();
@@ -136,7 +136,7 @@ frmBeerStyles::frmBeerStyles(Workbench& wb, QWidget* parent)
   lvStyles->sortByColumn(-1, Qt::AscendingOrder);  // table order until a header is clicked
   cmdNew = new QPushButton(tr("&New..."));
   cmdNew->setToolTip(tr("A custom style of your own, starting from the selected one's ranges"));
-  cmdChange = new QPushButton(tr("C&hange..."));
+  cmdChange = new QPushButton(tr("Chan&ge..."));
   cmdDelete = new QPushButton(tr("&Delete"));
   cmdNewRecipe = new QPushButton(tr("New &Recipe"));
   for (auto [b, n] : {std::pair{cmdNew, "cmdNew"}, {cmdChange, "cmdChange"}, {cmdDelete, "cmdDelete"},
@@ -182,6 +182,7 @@ frmBeerStyles::frmBeerStyles(Workbench& wb, QWidget* parent)
   auto* commentsCaption = new QLabel(tr("Comments:"));
   txtComments = new QTextBrowser;
   txtComments->setObjectName("txtComments");
+  txtComments->setTabChangesFocus(true);
   txtComments->setPlaceholderText(tr("No comments for this style."));
   rightLayout->addWidget(commentsCaption);
   rightLayout->addWidget(txtComments, 1);

@@ -62,12 +62,14 @@ frmComments::frmComments(Workbench& wb, RecipeEditor& editor, QWidget* parent)
   txtLabelName->setMaxLength(35);
   txtLabelName->setToolTip("The name on the bottle label");
   form->addRow("&Date Created:", txtDateCreated);
-  form->addRow("I&D Code:", txtIdCode);
+  form->addRow("&ID Code:", txtIdCode);
   form->addRow("&Label Name:", txtLabelName);
   box->addLayout(form);
   auto* lbl = new QLabel("&Comments:", central);
   txtComment = new QPlainTextEdit(central);
   txtComment->setObjectName("txtComment");
+  txtComment->setTabChangesFocus(true);
+  txtComment->setToolTip("Notes on the recipe: where it came from, how it turned out, what to change next time");
   lbl->setBuddy(txtComment);
   box->addWidget(lbl);
   box->addWidget(txtComment, 1);

@@ -102,6 +102,7 @@ frmFermentation::frmFermentation(Workbench& wb, FermentationForm& form, QWidget*
   txtConditioning = new QPlainTextEdit(cond);
   txtConditioning->setObjectName("txtConditioning");
   txtConditioning->setFixedHeight(54);
+  txtConditioning->setTabChangesFocus(true);
   txtConditioning->setToolTip("Priming sugar, kraeusen or CO2 pressure: how the beer gets its carbonation");
   condLabel->setBuddy(txtConditioning);
   cg->addWidget(condLabel, 2, 0, 1, 2);

@@ -315,6 +315,11 @@ frmHopsUtilization::frmHopsUtilization(Workbench& wb, QWidget* parent) : QWidget
   all->addLayout(buttons);
 
   setTabOrder(grdUtil, cmdRager);
+  // The bottom row as it stands on the screen: Help and Print on the left, Accept and Cancel right.
+  setTabOrder(txtFactor[2], cmdHelp);
+  setTabOrder(cmdHelp, cmdPrint);
+  setTabOrder(cmdPrint, cmdAccept);
+  setTabOrder(cmdAccept, cmdCancel);
   resize(860, 640);
   load();
 }

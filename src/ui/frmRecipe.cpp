@@ -9,6 +9,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -39,8 +40,8 @@ const std::array<ToolInfo, kRecipeToolCount>& toolInfo() {
   static const std::array<ToolInfo, kRecipeToolCount> t = {{
       {"Hops utilization curve and bitterness by boil time", "Comes with the hops utilization window"},
       {"The mash steps: their times and temperatures", "Comes with the mash schedule window"},
-      {"Find the beer styles this recipe matches", "Comes with the beer style windows"},
-      {"Choose which styles the style list offers", "Comes with the beer style windows"},
+      {"Match/Find Beer Style: the styles this recipe fits", "Comes with the beer style windows"},
+      {"Beer Style Filtering: which styles the Beer Style list offers", "Comes with the beer style windows"},
       {"Browse the beer styles", "Comes with the beer style windows"},
       {"Show your stock of ingredients", "Comes with the inventory"},
       {"Add ingredients from your inventory", "Comes with the inventory"},
@@ -357,9 +358,9 @@ QWidget* frmRecipe::buildTitleFrame() {
   cboBeerStyle->setMinimumWidth(220);
   cboBeerStyle->setMaxVisibleItems(20);
   cboBeerStyle->setToolTip("The style the recipe is judged against");
-  cmdSearch = new QPushButton(toolIcon(ToolIcon::Search), "Matc&h...", g);
+  cmdSearch = new QPushButton(toolIcon(ToolIcon::Search), "&Match...", g);
   cmdSearch->setObjectName("cmdSearch");
-  cmdFilter = new QPushButton("F&ilter...", g);
+  cmdFilter = new QPushButton("Filte&r...", g);
   cmdFilter->setObjectName("cmdFilter");
   toolWidgets_[static_cast<size_t>(RecipeTool::StyleMatch)].push_back(cmdSearch);
   toolWidgets_[static_cast<size_t>(RecipeTool::StyleFilter)].push_back(cmdFilter);
@@ -387,7 +388,7 @@ QWidget* frmRecipe::buildTitleFrame() {
 
   grid->addWidget(caption("Recipe &Name:", txtTitle), 0, 0);
   grid->addWidget(txtTitle, 0, 1, 1, 6);
-  grid->addWidget(caption("Recipe &Type:", cboRecipeType), 1, 0);
+  grid->addWidget(caption("Recipe Ty&pe:", cboRecipeType), 1, 0);
   grid->addWidget(cboRecipeType, 1, 1, 1, 2);
   grid->addWidget(caption("Beer &Style:", cboBeerStyle), 1, 3);
   auto* styleRow = new QHBoxLayout;
@@ -395,7 +396,7 @@ QWidget* frmRecipe::buildTitleFrame() {
   styleRow->addWidget(cmdSearch);
   styleRow->addWidget(cmdFilter);
   grid->addLayout(styleRow, 1, 4, 1, 3);
-  grid->addWidget(caption("&Fermentation Volume:", txtFermentVolume), 2, 0);
+  grid->addWidget(caption("Fermentation Vol&ume:", txtFermentVolume), 2, 0);
   grid->addWidget(txtFermentVolume, 2, 1);
   grid->addWidget(lblFermentUnits, 2, 2);
   lblFermentUnits->setMinimumWidth(86);
@@ -418,7 +419,7 @@ QWidget* frmRecipe::buildTitleFrame() {
   mashRow->addWidget(new QLabel("Boil (min):"));
   mashRow->addWidget(lblBoilTime);
   mashRow->addStretch();
-  cmdUnitMash = new QPushButton("&Units/Mash...", g);
+  cmdUnitMash = new QPushButton("Units/Mash...", g);
   cmdUnitMash->setObjectName("cmdUnitMash");
   toolWidgets_[static_cast<size_t>(RecipeTool::UnitMashData)].push_back(cmdUnitMash);
   connect(cmdUnitMash, &QPushButton::clicked, this, [this] { runTool(RecipeTool::UnitMashData); });
@@ -507,6 +508,7 @@ QWidget* frmRecipe::buildGrid() {
   grdIngredients->setSelectionBehavior(QAbstractItemView::SelectRows);
   grdIngredients->setSelectionMode(QAbstractItemView::SingleSelection);
   grdIngredients->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  grdIngredients->setTabKeyNavigation(false);  // Tab leaves the grid; the arrows move in it
   grdIngredients->setAlternatingRowColors(false);
   grdIngredients->setShowGrid(true);
   grdIngredients->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -517,6 +519,9 @@ QWidget* frmRecipe::buildGrid() {
     else grdIngredients->setColumnWidth(c, widths[c]);
   }
   grdIngredients->setMinimumHeight(21 * 17 + 4);
+  grdIngredients->installEventFilter(this);
+  grdIngredients->setToolTip("Arrow keys choose an ingredient, Return edits its quantity, Delete removes it; "
+                             "right click or the menu key to sort or move");
   connect(grdIngredients->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           [this](const QModelIndex& cur) {
             if (painting_) return;
@@ -534,7 +539,7 @@ QWidget* frmRecipe::buildGrid() {
 
   auto* buttons = new QVBoxLayout;
   buttons->setSpacing(4);
-  const char* captions[4] = {"New &Malt", "New H&ops", "New O&ther", "New &Yeast"};
+  const char* captions[4] = {"New M&alt", "Ne&w Hops", "New &Other", "New &Yeast"};
   for (int k = 0; k < 4; ++k) {
     auto* b = new QPushButton(captions[k], row);
     b->setObjectName(QString("cmdAddNew%1").arg(k));
@@ -547,7 +552,7 @@ QWidget* frmRecipe::buildGrid() {
     buttons->addWidget(b);
   }
   buttons->addSpacing(8);
-  cmdAddIngredients = new QPushButton("From In&ventory", row);
+  cmdAddIngredients = new QPushButton("From Inv&entory", row);
   cmdAddIngredients->setObjectName("cmdAddIngredients");
   toolWidgets_[static_cast<size_t>(RecipeTool::FromInventory)].push_back(cmdAddIngredients);
   connect(cmdAddIngredients, &QPushButton::clicked, this, [this] { runTool(RecipeTool::FromInventory); });
@@ -632,13 +637,13 @@ QWidget* frmRecipe::buildEditStrip() {
     keep(w);
 
   int c = 0;
-  grid->addWidget(caption("&Item:", txtItem), 0, c++);
+  grid->addWidget(caption("In&gredient:", txtItem), 0, c++);
   grid->addWidget(txtItem, 0, c++);
   grid->addWidget(caption("&Quantity:", txtQty), 0, c++);
   grid->addWidget(txtQty, 0, c++);
   grid->addWidget(udcQty, 0, c++);
   grid->addWidget(cboUnits, 0, c++);
-  grid->addWidget(caption("C&ost:", txtCost), 0, c++);
+  grid->addWidget(caption("&Cost/Unit:", txtCost), 0, c++);
   grid->addWidget(txtCost, 0, c++);
   grid->addWidget(udcCost, 0, c++);
   grid->addWidget(lblExtraction, 0, c++);
@@ -688,7 +693,42 @@ QWidget* frmRecipe::buildEditStrip() {
   connect(txtQty, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
     if (editor_.sheet.grid.isItemRow(editor_.selectedRow)) mnuQty->popup(txtQty->mapToGlobal(at));
   });
+  for (QLineEdit* e : {txtItem, txtQty, txtCost, txtExtraction, txtColor}) e->installEventFilter(this);
   return fraEdits;
+}
+
+bool frmRecipe::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return QMainWindow::eventFilter(watched, event);
+  const auto* k = static_cast<QKeyEvent*>(event);
+  const int key = k->key();
+  const bool plain = (k->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  const bool itemRow = editor_.sheet.grid.isItemRow(editor_.selectedRow);
+  if (watched == grdIngredients && plain) {
+    if (key == Qt::Key_Delete && itemRow) {
+      cmdDeleteIngredient->click();
+      return true;
+    }
+    if ((key == Qt::Key_Return || key == Qt::Key_Enter) && itemRow) {
+      txtQty->setFocus(Qt::TabFocusReason);
+      txtQty->selectAll();
+      return true;
+    }
+    if (key == Qt::Key_Menu) {
+      const QRect r = grdIngredients->visualRect(gridModel->index(std::max(editor_.selectedRow, 0), COL_NAME));
+      emit grdIngredients->customContextMenuRequested(r.center());
+      return true;
+    }
+    return false;
+  }
+  // In a box of the strip, Return settles the value and goes back to the grid, and so does Esc.
+  if (watched != grdIngredients && plain && (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape)) {
+    auto* box = qobject_cast<QLineEdit*>(watched);
+    if (!box) return false;
+    if (key != Qt::Key_Escape) emit box->editingFinished();
+    grdIngredients->setFocus(Qt::OtherFocusReason);
+    return true;
+  }
+  return QMainWindow::eventFilter(watched, event);
 }
 
 // ---- Tools -----------------------------------------------------------------------------------------

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -136,6 +137,18 @@ void frmStyleMatch::showEvent(QShowEvent* event) {
   }
   refresh();
   QWidget::showEvent(event);
+}
+
+void frmStyleMatch::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (auto* b = qobject_cast<QPushButton*>(focusWidget())) b->click();
+      else if (cmdSetRecipe->isEnabled()) cmdSetRecipe->click();
+      return;
+    case Qt::Key_Escape: close(); return;
+    default: QWidget::keyPressEvent(event);
+  }
 }
 
 void frmStyleMatch::closeEvent(QCloseEvent* event) { closeStyleWindow(this, wb_, kSection, event); }
