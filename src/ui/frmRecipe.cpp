@@ -358,6 +358,11 @@ QWidget* frmRecipe::buildTitleFrame() {
   cboBeerStyle->setMinimumWidth(220);
   cboBeerStyle->setMaxVisibleItems(20);
   cboBeerStyle->setToolTip("The style the recipe is judged against");
+  // A recipe style that the filter hides stands in the box as its placeholder: it is the recipe's
+  // own style, so it reads as plain text, not greyed like a hint.
+  QPalette stylePalette = cboBeerStyle->palette();
+  stylePalette.setColor(QPalette::PlaceholderText, stylePalette.color(QPalette::ButtonText));
+  cboBeerStyle->setPalette(stylePalette);
   cmdSearch = new QPushButton(toolIcon(ToolIcon::Search), "&Match...", g);
   cmdSearch->setObjectName("cmdSearch");
   cmdFilter = new QPushButton("Filte&r...", g);

@@ -5,7 +5,12 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QGroupBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QTableView>
+#include <QTreeWidget>
 #include <functional>
 
 #include "ui/RecipeBench.h"
@@ -146,6 +151,80 @@ TEST_F(KeysTest, TabFollowsTheScreenLeftToRightTopToBottom) {
     }
     win->hide();
   }
+}
+
+// Return does what the window's default button does, Esc what its cancel button does.
+TEST_F(KeysTest, ReturnAndEscActAsTheDefaultAndCancelButtons) {
+  ProgramWindows& w = *b.windows;
+  std::vector<std::string> asked;
+  frmFind find(frmFind::Mode::Recipe, [&](const std::string& part) { asked.push_back(part); return true; }, &recipe());
+  dlgFilterBeerStyles filter(*b.wb, &recipe());
+  StyleEditor styles(b.wb->styles, b.wb->folder, b.wb->errors, b.wb->prompter);
+  dlgBeerCategories categories(*b.wb, styles, &recipe());
+  frmUnitMashData& units = w.unitMashData();
+  struct Case {
+    QWidget* window;
+    QWidget* box;            // where the keys go
+    const char* typed;       // typed into the box first, when it is a text box
+    Qt::Key key;
+    std::function<void()> check;
+    bool staysOpen;
+  };
+  const std::vector<Case> cases = {
+      {&find, find.txtFind, "amb", Qt::Key_Return, [&] { EXPECT_EQ(asked, std::vector<std::string>{"amb"}); }, true},
+      {&find, find.txtFind, "", Qt::Key_Escape, [&] { EXPECT_EQ(asked.size(), 1u); }, false},
+      {&w.scale(), w.scale().txtVolume, "10", Qt::Key_Return,
+       [&] { EXPECT_EQ(recipe().txtFermentVolume->text(), "10.0"); }, false},
+      {&w.scale(), w.scale().txtVolume, "20", Qt::Key_Escape,
+       [&] { EXPECT_EQ(recipe().txtFermentVolume->text(), "10.0"); }, false},
+      {&units, units.txtBoilTime, "75", Qt::Key_Escape, [&] { EXPECT_EQ(recipe().lblBoilTime->text(), "60"); }, false},
+      {&units, units.cboMashType, "", Qt::Key_Return, [&] { EXPECT_EQ(recipe().lblBoilTime->text(), "60"); }, false},
+      {&units, units.txtBoilTime, "75", Qt::Key_Return, [&] { EXPECT_EQ(recipe().lblBoilTime->text(), "75"); }, false},
+      {&filter, filter.txtFilter, "amber", Qt::Key_Return, [&] { EXPECT_EQ(b.wb->styles.StyleFilterText, "amber"); }, false},
+      {&filter, filter.txtFilter, "stout", Qt::Key_Escape, [&] { EXPECT_EQ(b.wb->styles.StyleFilterText, "amber"); }, false},
+      {&categories, categories.txtCategory, "House Ales", Qt::Key_Return,
+       [&] { EXPECT_EQ(categories.lstCategories->count(), 1); }, true},
+      {&w.fermentation(), w.fermentation().txtValue[0], "", Qt::Key_Escape, [] {}, false},
+      {&w.styleMatch(), w.styleMatch().lvStyle, "", Qt::Key_Escape, [] {}, false},
+  };
+  int n = 0;
+  for (const Case& c : cases) {
+    SCOPED_TRACE(n++);
+    if (c.window == &w.scale()) w.scale().load();
+    c.window->show();
+    c.window->activateWindow();
+    c.box->setFocus();
+    if (auto* e = qobject_cast<QLineEdit*>(c.box); e && *c.typed) {
+      e->selectAll();
+      QTest::keyClicks(e, c.typed);
+    }
+    QTest::keyClick(c.box, c.key);
+    QApplication::processEvents();
+    c.check();
+    EXPECT_EQ(c.window->isVisible(), c.staysOpen);
+    c.window->hide();
+  }
+}
+
+// The ingredient grid without the mouse: the arrows choose a row and fill the edit strip, Return
+// goes to the quantity and back, Delete asks before the row goes.
+TEST_F(KeysTest, TheGridIsDrivenByTheKeyboard) {
+  frmRecipe& r = recipe();
+  r.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&r));
+  r.selectGridRow(kMaltRow);
+  QTest::keyClick(r.grdIngredients, Qt::Key_Down);
+  EXPECT_EQ(r.txtItem->text(), "Munich Malt");
+  QTest::keyClick(r.grdIngredients, Qt::Key_Return);
+  ASSERT_EQ(QApplication::focusWidget(), r.txtQty);
+  QTest::keyClicks(r.txtQty, "2.5");
+  QTest::keyClick(r.txtQty, Qt::Key_Return);
+  EXPECT_EQ(QApplication::focusWidget(), r.grdIngredients);
+  EXPECT_EQ(r.gridModel->index(kMaltRow + 1, COL_QTY).data().toString(), "2.5");
+  b.prompter.answers = {Answer::No, Answer::Yes};
+  for (int i = 0; i < 2; ++i) QTest::keyClick(r.grdIngredients, Qt::Key_Delete);
+  EXPECT_EQ(shownLines(b.prompter), std::vector<std::string>(2, "Delete Ingredient: Do you want to Delete \"Munich Malt\" from the Recipe?"));
+  EXPECT_EQ(r.gridModel->index(kMaltRow + 1, COL_NAME).data().toString(), "Crystal 60");
 }
 
 }  // namespace
