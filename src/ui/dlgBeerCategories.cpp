@@ -87,6 +87,9 @@ dlgBeerCategories::dlgBeerCategories(Workbench& wb, StyleEditor& editor, QWidget
   connect(cmdClose, &QPushButton::clicked, this, &QDialog::accept);
   connect(help, &QPushButton::clicked, this, [this] { showStyleHelp(this, wb_, "beer-styles.html#categories"); });
   fillList(-1);
+  txtCategory->setToolTip(tr("The category's name, as the style lists show it"));
+  lstCategories->setMinimumWidth(200);
+  setMinimumSize(500, 240);
   resize(620, 320);
 }
 

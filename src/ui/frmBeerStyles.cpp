@@ -132,6 +132,8 @@ frmBeerStyles::frmBeerStyles(Workbench& wb, QWidget* parent)
   lvStyles->setRootIsDecorated(false);
   lvStyles->setAllColumnsShowFocus(true);
   lvStyles->setUniformRowHeights(true);
+  lvStyles->setToolTip(tr("Click a style to see its ranges; double-click one of your own to change it; "
+                          "click a column header to sort"));
   lvStyles->setSortingEnabled(true);
   lvStyles->sortByColumn(-1, Qt::AscendingOrder);  // table order until a header is clicked
   cmdNew = new QPushButton(tr("&New..."));
@@ -193,6 +195,11 @@ frmBeerStyles::frmBeerStyles(Workbench& wb, QWidget* parent)
   split->setStretchFactor(0, 3);
   split->setStretchFactor(1, 2);
   split->setChildrenCollapsible(false);
+  // Each side keeps room for its texts: the list its three columns, the details a range's caption
+  // beside its numbers.
+  left->setMinimumWidth(340);
+  right->setMinimumWidth(320);
+  setMinimumSize(720, 560);
   setCentralWidget(split);
   statusBar();
 

@@ -172,7 +172,7 @@ frmRecipe::frmRecipe(Workbench& wb, QWidget* parent) : QMainWindow(parent), wb_(
 
   for (int i = 0; i < kRecipeToolCount; ++i) setToolOpener(static_cast<RecipeTool>(i), {});
   refreshFromModel();
-  restoreWindowPlacement(*this, wb_.settings, kSection, QSize(1080, 690), QPoint(80, 40), QSize(900, 640));
+  restoreWindowPlacement(*this, wb_.settings, kSection, QSize(1160, 730), QPoint(60, 30));
 }
 
 QAction* frmRecipe::toolAction(RecipeTool t, QMenu* menu, const QString& text) {
@@ -353,9 +353,10 @@ QWidget* frmRecipe::buildTitleFrame() {
   txtTitle->setToolTip("The recipe's name, as the recipe list shows it");
   cboRecipeType = new QComboBox(g);
   cboRecipeType->setObjectName("cboRecipeType");
+  cboRecipeType->setToolTip("The kind of beer the recipe makes; the recipe list can group by it");
   cboBeerStyle = new QComboBox(g);
   cboBeerStyle->setObjectName("cboBeerStyle");
-  cboBeerStyle->setMinimumWidth(220);
+  cboBeerStyle->setMinimumWidth(190);
   cboBeerStyle->setMaxVisibleItems(20);
   cboBeerStyle->setToolTip("The style the recipe is judged against");
   // A recipe style that the filter hides stands in the box as its placeholder: it is the recipe's
@@ -379,6 +380,7 @@ QWidget* frmRecipe::buildTitleFrame() {
   for (QLineEdit* e : {txtFermentVolume, txtInitalBoilVolume}) {
     e->setValidator(numberValidator(e));
     e->setAlignment(Qt::AlignRight);
+    e->setMinimumWidth(64);
     e->setMaximumWidth(70);
   }
   txtFermentVolume->setToolTip("The volume that goes into the fermenter; gravities follow it");
@@ -412,6 +414,7 @@ QWidget* frmRecipe::buildTitleFrame() {
   boilRow->addWidget(lblBoilUnits);
   boilRow->addStretch();
   grid->addLayout(boilRow, 2, 4);
+  // The recipe's units and mash as the units/mash window sets them, with its button below.
   grid->addWidget(caption("Units:"), 3, 0);
   grid->addWidget(lblUnitType, 3, 1, 1, 2);
   grid->addWidget(caption("Mash:"), 3, 3);
@@ -420,16 +423,20 @@ QWidget* frmRecipe::buildTitleFrame() {
   mashRow->addSpacing(8);
   mashRow->addWidget(new QLabel("Efficiency %:"));
   mashRow->addWidget(lblMashEff);
-  mashRow->addSpacing(8);
-  mashRow->addWidget(new QLabel("Boil (min):"));
-  mashRow->addWidget(lblBoilTime);
   mashRow->addStretch();
+  grid->addLayout(mashRow, 3, 4, 1, 3);
+  grid->addWidget(caption("Boil Time:"), 4, 0);
+  auto* boilTimeRow = new QHBoxLayout;
+  boilTimeRow->addWidget(lblBoilTime);
+  boilTimeRow->addSpacing(4);
+  boilTimeRow->addWidget(new QLabel("minutes"));
+  boilTimeRow->addStretch();
+  grid->addLayout(boilTimeRow, 4, 1, 1, 2);
   cmdUnitMash = new QPushButton("Units/Mash...", g);
   cmdUnitMash->setObjectName("cmdUnitMash");
   toolWidgets_[static_cast<size_t>(RecipeTool::UnitMashData)].push_back(cmdUnitMash);
   connect(cmdUnitMash, &QPushButton::clicked, this, [this] { runTool(RecipeTool::UnitMashData); });
-  mashRow->addWidget(cmdUnitMash);
-  grid->addLayout(mashRow, 3, 4, 1, 3);
+  grid->addWidget(cmdUnitMash, 4, 4, 1, 3, Qt::AlignRight);
   grid->setColumnStretch(4, 1);
 
   connect(txtTitle, &QLineEdit::textEdited, this, [this](const QString& t) {
@@ -523,7 +530,7 @@ QWidget* frmRecipe::buildGrid() {
     if (c == COL_NAME) hh->setSectionResizeMode(c, QHeaderView::Stretch);
     else grdIngredients->setColumnWidth(c, widths[c]);
   }
-  grdIngredients->setMinimumHeight(21 * 17 + 4);
+  grdIngredients->setMinimumHeight(21 * 12 + 4);  // a dozen rows; the window fits a small screen
   grdIngredients->installEventFilter(this);
   grdIngredients->setToolTip("Arrow keys choose an ingredient, Return edits its quantity, Delete removes it; "
                              "right click or the menu key to sort or move");
@@ -609,6 +616,7 @@ QWidget* frmRecipe::buildEditStrip() {
   txtItem->setObjectName("txtItem");
   txtItem->setMaxLength(50);
   txtItem->setMinimumWidth(180);
+  txtItem->setToolTip("The ingredient's name");
   txtQty = edit("txtQty", 64);
   txtQty->setContextMenuPolicy(Qt::CustomContextMenu);
   txtQty->setToolTip("Quantity; right click to step to the next or previous whole, half, quarter or tenth");
@@ -616,6 +624,7 @@ QWidget* frmRecipe::buildEditStrip() {
   cboUnits = new QComboBox(fraEdits);
   cboUnits->setObjectName("cboUnits");
   cboUnits->setMinimumWidth(90);
+  cboUnits->setToolTip("The unit of the quantity; for a malt or a hop a new unit converts the quantity and the cost");
   txtCost = edit("txtCost", 70, true);
   txtCost->setToolTip("Cost per unit");
   udcCost = spinner("udcCost", StripField::Cost);
@@ -641,25 +650,26 @@ QWidget* frmRecipe::buildEditStrip() {
                                                     lblColorCaption, txtColor, udcColor, chkMash})
     keep(w);
 
-  int c = 0;
-  grid->addWidget(caption("In&gredient:", txtItem), 0, c++);
-  grid->addWidget(txtItem, 0, c++);
-  grid->addWidget(caption("&Quantity:", txtQty), 0, c++);
-  grid->addWidget(txtQty, 0, c++);
-  grid->addWidget(udcQty, 0, c++);
-  grid->addWidget(cboUnits, 0, c++);
-  grid->addWidget(caption("&Cost/Unit:", txtCost), 0, c++);
-  grid->addWidget(txtCost, 0, c++);
-  grid->addWidget(udcCost, 0, c++);
-  grid->addWidget(lblExtraction, 0, c++);
-  grid->addWidget(txtExtraction, 0, c++);
-  grid->addWidget(udcExtraction, 0, c++);
-  grid->addWidget(lblExtPct, 0, c++);
-  grid->addWidget(lblColorCaption, 0, c++);
-  grid->addWidget(txtColor, 0, c++);
-  grid->addWidget(udcColor, 0, c++);
-  grid->addWidget(chkMash, 0, c++);
-  grid->setColumnStretch(1, 1);
+  // Two lines: what the ingredient is and what it costs, then what it gives the beer.
+  grid->addWidget(caption("In&gredient:", txtItem), 0, 0);
+  grid->addWidget(txtItem, 0, 1, 1, 3);
+  grid->addWidget(caption("&Quantity:", txtQty), 0, 4);
+  grid->addWidget(txtQty, 0, 5);
+  grid->addWidget(udcQty, 0, 6);
+  grid->addWidget(cboUnits, 0, 7);
+  grid->addWidget(caption("&Cost/Unit:", txtCost), 0, 8);
+  grid->addWidget(txtCost, 0, 9);
+  grid->addWidget(udcCost, 0, 10);
+  grid->addWidget(lblExtraction, 1, 0);
+  grid->addWidget(txtExtraction, 1, 1);
+  grid->addWidget(udcExtraction, 1, 2);
+  grid->addWidget(lblExtPct, 1, 3);
+  grid->addWidget(lblColorCaption, 1, 4);
+  grid->addWidget(txtColor, 1, 5);
+  grid->addWidget(udcColor, 1, 6);
+  grid->addWidget(chkMash, 1, 7, Qt::AlignLeft);
+  grid->setColumnStretch(3, 1);
+  grid->setColumnStretch(11, 1);
 
   connect(txtItem, &QLineEdit::textEdited, this, [this](const QString& t) {
     editor_.setItemName(s8(t));

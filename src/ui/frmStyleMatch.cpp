@@ -65,6 +65,10 @@ frmStyleMatch::frmStyleMatch(Workbench& wb, RecipeEditor& editor, QWidget* paren
   layout->addWidget(lvStyle, 1);
   layout->addWidget(hints);
   layout->addLayout(buttons);
+  // Room for a style's name and half a dozen rows at the least.
+  lvStyle->setMinimumHeight(lvStyle->fontMetrics().height() * 8);
+  lvStyle->header()->setMinimumSectionSize(40);
+  setMinimumSize(500, 320);
 
   connect(lvStyle->header(), &QHeaderView::sectionClicked, this, [this](int c) {
     model.selected = lvStyle->currentItem() ? lvStyle->indexOfTopLevelItem(lvStyle->currentItem()) : -1;
