@@ -156,7 +156,7 @@ frmBeerStyles::frmBeerStyles(Workbench& wb, QWidget* parent)
   leftButtons->addWidget(cmdNewRecipe);
   auto* left = new QWidget;
   auto* leftLayout = new QVBoxLayout(left);
-  leftLayout->setContentsMargins(0, 0, 0, 0);
+  leftLayout->setContentsMargins(6, 4, 0, 4);
   leftLayout->addLayout(leftTop);
   leftLayout->addWidget(lvStyles, 1);
   leftLayout->addLayout(leftButtons);

@@ -567,6 +567,11 @@ void frmHopsUtilization::keyPressEvent(QKeyEvent* event) {
     cmdCancel_Click();
     return;
   }
+  // The grid and the factor boxes keep Return for themselves; on a button it presses the button.
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (auto* b = qobject_cast<QPushButton*>(focusWidget()); b && b->isEnabled()) b->click();
+    return;
+  }
   QWidget::keyPressEvent(event);
 }
 

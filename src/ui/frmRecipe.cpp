@@ -572,7 +572,7 @@ QWidget* frmRecipe::buildGrid() {
   buttons->addSpacing(8);
   cmdDeleteIngredient = new QPushButton(recipeIcon("Delete"), "&Delete", row);
   cmdDeleteIngredient->setObjectName("cmdDeleteIngredient");
-  cmdDeleteIngredient->setToolTip("Delete the selected ingredient from the recipe");
+  cmdDeleteIngredient->setToolTip("Delete the selected ingredient from the recipe (the Delete key in the grid)");
   connect(cmdDeleteIngredient, &QPushButton::clicked, this, [this] {
     editor_.cmdDeleteIngredient_Click();
     afterEdit(true);

@@ -9,7 +9,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <QTableView>
+#include <QTableWidget>
 #include <QTreeWidget>
 #include <functional>
 
@@ -186,6 +188,8 @@ TEST_F(KeysTest, ReturnAndEscActAsTheDefaultAndCancelButtons) {
        [&] { EXPECT_EQ(categories.lstCategories->count(), 1); }, true},
       {&w.fermentation(), w.fermentation().txtValue[0], "", Qt::Key_Escape, [] {}, false},
       {&w.styleMatch(), w.styleMatch().lvStyle, "", Qt::Key_Escape, [] {}, false},
+      {&w.hopsUtilization(), w.hopsUtilization().cmdCancel, "", Qt::Key_Return, [] {}, false},
+      {&w.hopsUtilization(), w.hopsUtilization().grdUtil, "", Qt::Key_Escape, [] {}, false},
   };
   int n = 0;
   for (const Case& c : cases) {
