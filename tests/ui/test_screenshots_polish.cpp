@@ -6,8 +6,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
-#include <QLayout>
-#include <functional>
 
 #include "ui/RecipeBench.h"
 #include "ui/dlgBeerCategories.h"
@@ -28,44 +26,36 @@
 namespace zy::test {
 namespace {
 
-void shoot(QWidget& w, const QString& path) {
-  QApplication::processEvents();
-  QTest::qWait(30);
-  ASSERT_TRUE(w.grab().save(path)) << path.toStdString();
-  EXPECT_TRUE(pictureIsNotBlank(path)) << path.toStdString();
-}
-
 TEST(ScreenshotsPolish, EachWindowAtItsSmallestAndAtItsOpeningSize) {
   const QString dir = qEnvironmentVariable("ZY_SCREENSHOT_DIR");
   if (dir.isEmpty()) GTEST_SKIP() << "ZY_SCREENSHOT_DIR not set";
   QDir().mkpath(dir);
   RecipeBench b(true);
   b.storeDozen(1, "Copper Kettle Amber");
-  b.storeDozen(2, "Harvest Pale");
   ProgramWindows& w = *b.windows;
-  frmRecipeList& list = w.recipeList();
   w.showRecipeList();
-  b.openFromTree(list.tvRecipes, list.itemOf("R1"));
+  b.openFromTree(w.recipeList().tvRecipes, w.recipeList().itemOf("R1"));
   w.recipe().selectGridRow(1);
-  StyleEditor styles(b.wb->styles, b.wb->folder, b.wb->errors, b.wb->prompter);
-  frmFind find(frmFind::Mode::Recipe, {}, &w.recipe());
-  dlgFilterBeerStyles filter(*b.wb, &w.recipe());
-  dlgBeerStyleStats stats(*b.wb, &w.recipe());
-  dlgBeerStyleEdit edit(*b.wb, styles, -1, styles.newStyleForm(0), &w.recipe());
-  dlgBeerCategories categories(*b.wb, styles, &w.recipe());
   w.scale().load();
+  StyleEditor styles(b.wb->styles, b.wb->folder, b.wb->errors, b.wb->prompter);
+  QWidget* r = &w.recipe();
   const std::vector<std::pair<QString, QWidget*>> windows = {
-      {"recipe", &w.recipe()},         {"recipe-list", &list},          {"find", &find},
-      {"scale", &w.scale()},           {"fermentation", &w.fermentation()}, {"comments", &w.comments()},
-      {"hops-utilization", &w.hopsUtilization()}, {"unit-mash", &w.unitMashData()},
-      {"style-match", &w.styleMatch()}, {"style-filter", &filter},     {"style-stats", &stats},
-      {"beer-styles", &w.beerStyles()}, {"style-edit", &edit},         {"categories", &categories},
+      {"recipe", r}, {"recipe-list", &w.recipeList()}, {"find", new frmFind(frmFind::Mode::Recipe, {}, r)},
+      {"scale", &w.scale()}, {"fermentation", &w.fermentation()}, {"comments", &w.comments()},
+      {"hops-utilization", &w.hopsUtilization()}, {"unit-mash", &w.unitMashData()}, {"style-match", &w.styleMatch()},
+      {"style-filter", new dlgFilterBeerStyles(*b.wb, r)}, {"style-stats", new dlgBeerStyleStats(*b.wb, r)},
+      {"beer-styles", &w.beerStyles()}, {"style-edit", new dlgBeerStyleEdit(*b.wb, styles, -1, styles.newStyleForm(0), r)},
+      {"categories", new dlgBeerCategories(*b.wb, styles, r)},
   };
   for (const auto& [name, win] : windows) {
     win->show();
-    shoot(*win, dir + "/" + name + "-default.png");
-    win->resize(win->minimumSize().expandedTo(win->minimumSizeHint()));
-    shoot(*win, dir + "/" + name + "-min.png");
+    for (const char* size : {"default", "min"}) {
+      if (QString(size) == "min") win->resize(win->minimumSize().expandedTo(win->minimumSizeHint()));
+      QApplication::processEvents();
+      const QString path = dir + "/" + name + "-" + size + ".png";
+      ASSERT_TRUE(win->grab().save(path));
+      EXPECT_TRUE(pictureIsNotBlank(path)) << path.toStdString();
+    }
     win->hide();
   }
 }
@@ -75,9 +65,8 @@ TEST(ScreenshotsPolish, EachWindowAtItsSmallestAndAtItsOpeningSize) {
 TEST(ScreenshotsPolish, TheRecipeStyleHiddenByTheFilterReadsAsText) {
   RecipeBench b;
   b.storeDozen(1, "Copper Kettle Amber");
-  frmRecipeList& list = b.windows->recipeList();
   b.windows->showRecipeList();
-  b.openFromTree(list.tvRecipes, list.itemOf("R1"));
+  b.openFromTree(b.windows->recipeList().tvRecipes, b.windows->recipeList().itemOf("R1"));
   frmRecipe& r = b.windows->recipe();
   b.wb->styles.StyleFilterText = "stout";
   r.editor().cmdFilterClosed();
