@@ -8,11 +8,17 @@
 #include "ui/frmHopsUtilization.h"
 #include "ui/frmStyleMatch.h"
 #include "ui/frmUnitMashData.h"
+#include "ui/frmBatchLogList.h"
 #include "ui/frmComments.h"
 #include "ui/frmFermentation.h"
 #include "ui/frmHelp.h"
+#include "ui/frmInvCheck.h"
+#include "ui/frmInventory.h"
+#include "ui/frmShoppingLst.h"
+#include "inventory/InventoryStartup.h"
 #include "ui/frmMain.h"
 #include "ui/frmProperties.h"
+#include "ui/frmRecReader.h"
 #include "ui/frmRecipe.h"
 #include "ui/frmRecipeList.h"
 
@@ -30,6 +36,8 @@ void bringForward(QWidget& w) {
 ProgramWindows::ProgramWindows(Workbench& wb, frmMain& main) : wb_(wb), main_(main) {
   main.setChildOpener(frmMain::Child::RecipeList, [this] { showRecipeList(); });
   main.setChildOpener(frmMain::Child::BeerStyles, [this] { showBeerStyles(); });
+  main.setChildOpener(frmMain::Child::Inventory, [this] { showInventory(false); });
+  main.setChildOpener(frmMain::Child::ShoppingList, [this] { showShoppingList(); });
   main.installEventFilter(this);
 }
 
@@ -37,6 +45,9 @@ ProgramWindows::~ProgramWindows() {
   // The editor's window takes its companions with it; the list forgets the tree's refresh.
   beerStyles_.reset();
   hopsUtilization_.reset();
+  invCheck_.reset();
+  inventory_.reset();
+  shoppingList_.reset();
   recipe_.reset();
   recipeList_.reset();
 }
@@ -62,6 +73,7 @@ frmRecipe& ProgramWindows::recipe() {
     r.openScale = [this] { openScale(); };
     r.openFermentation = [this] { showFermentation(); };
     r.openComments = [this] { showComments(); };
+    r.setToolOpener(RecipeTool::RecipeReader, [this] { showRecReader(); });
     r.openProperties = [this] { openProperties(recipe_.get()); };
     r.showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
     r.showHelp = [this](int where) { main_.showHelp(where); };
@@ -72,18 +84,26 @@ frmRecipe& ProgramWindows::recipe() {
     r.setToolOpener(RecipeTool::BeerStyles, [this] {
       showBeerStyles(recipe_->editor().cboBeerStyleText);
     });
+    r.setToolOpener(RecipeTool::BatchLog, [this] { showBatchLogList(); });
     // A change in the fermentation window shows on the editor's save button.
     FermentationForm& f = r.editor().fermentation;
     f.onChanged = [&r] {
       r.editor().recChanged();
       r.refreshSaveButton();
     };
+    r.setToolOpener(RecipeTool::InventoryLists, [this] { showInventory(false); });
+    r.setToolOpener(RecipeTool::FromInventory, [this] { showInventory(true); });
+    r.setToolOpener(RecipeTool::ShopListAdd, [this] { addRecipeToShoppingList(); });
+    r.setToolOpener(RecipeTool::ShopListCheck, [this] { showInvCheck(); });
+    r.setToolOpener(RecipeTool::ShopListDisplay, [this] { showShoppingList(); });
     // The companions close with the editor.
     connect(&r, &frmRecipe::closed, this, [this] {
       if (fermentation_) fermentation_->close();
       if (comments_) comments_->close();
+      if (recReader_) recReader_->close();
       if (styleMatch_) styleMatch_->close();
       if (unitMashData_) unitMashData_->close();
+      if (batchLogList_) batchLogList_->close();
     });
   }
   return *recipe_;
@@ -112,6 +132,20 @@ frmComments& ProgramWindows::comments() {
     comments_->showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
   }
   return *comments_;
+}
+
+frmRecReader& ProgramWindows::recReader() {
+  if (!recReader_) {
+    recReader_ = new frmRecReader(wb_, recipe().editor(), &recipe());
+    // The editor and its companions show what was read; the reader stays in front.
+    recReader_->extracted = [this] {
+      recipe().refreshFromModel();
+      if (fermentation_) fermentation_->refreshFromModel();
+      if (comments_) comments_->refreshFromModel();
+    };
+    recReader_->showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
+  }
+  return *recReader_;
 }
 
 frmHopsUtilization& ProgramWindows::hopsUtilization() {
@@ -195,6 +229,75 @@ void ProgramWindows::showBeerStyles(const std::string& styleName) {
   bringForward(b);
 }
 
+frmInventory& ProgramWindows::inventory() {
+  if (!inventory_) {
+    inventory_ = std::make_unique<frmInventory>(wb_);
+    frmInventory& w = *inventory_;
+    w.showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
+    w.recipeChanged = [this] {
+      if (recipe_) recipe_->refreshFromModel();
+    };
+    w.shoppingChanged = [this] {
+      if (shoppingList_) shoppingList_->refreshFromModel();
+    };
+  }
+  return *inventory_;
+}
+
+frmShoppingLst& ProgramWindows::shoppingList() {
+  if (!shoppingList_) {
+    shoppingList_ = std::make_unique<frmShoppingLst>(wb_);
+    shoppingList_->showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
+  }
+  return *shoppingList_;
+}
+
+frmInvCheck& ProgramWindows::invCheck() {
+  if (!invCheck_) {
+    invCheck_ = std::make_unique<frmInvCheck>(wb_, recipe().editor());
+    invCheck_->shoppingChanged = [this] { showShoppingList(); };
+  }
+  return *invCheck_;
+}
+
+void ProgramWindows::showInventory(bool toPickIngredients) {
+  frmInventory& w = inventory();
+  w.setAddToRecipe(toPickIngredients ? &recipe().editor() : nullptr);
+  w.refreshFromModel();
+  bringForward(w);
+}
+
+void ProgramWindows::showShoppingList() {
+  frmShoppingLst& w = shoppingList();
+  w.refreshFromModel();
+  bringForward(w);
+}
+
+void ProgramWindows::addRecipeToShoppingList() {
+  wb_.shopping.addRecipe(recipe().editor().sheet.grid);
+  keepShoppingList(wb_);
+  showShoppingList();
+}
+
+void ProgramWindows::showInvCheck() {
+  frmInvCheck& w = invCheck();
+  w.refresh();
+  bringForward(w);
+}
+
+frmBatchLogList& ProgramWindows::batchLogList() {
+  if (!batchLogList_) {
+    batchLogList_ = new frmBatchLogList(wb_, recipe().editor(), &recipe());
+    batchLogList_->showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
+  }
+  return *batchLogList_;
+}
+
+void ProgramWindows::showBatchLogList() {
+  frmBatchLogList& l = batchLogList();
+  if (l.loadForOpenRecipe()) bringForward(l);
+}
+
 void ProgramWindows::showRecipeList() { bringForward(recipeList()); }
 
 void ProgramWindows::showRecipe() {
@@ -223,11 +326,18 @@ void ProgramWindows::showComments() {
   bringForward(c);
 }
 
+void ProgramWindows::showRecReader() { bringForward(recReader()); }
+
 void ProgramWindows::closeAll() {
+  if (recReader_) recReader_->close();
   if (beerStyles_) beerStyles_->close();
   if (hopsUtilization_) hopsUtilization_->close();
   if (styleMatch_) styleMatch_->close();
   if (unitMashData_) unitMashData_->close();
+  if (invCheck_) invCheck_->close();
+  if (inventory_) inventory_->close();
+  if (shoppingList_) shoppingList_->close();
+  if (batchLogList_) batchLogList_->close();
   if (comments_) comments_->close();
   if (fermentation_) fermentation_->close();
   if (scale_) scale_->close();

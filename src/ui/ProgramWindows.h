@@ -17,10 +17,15 @@ class frmRecipe;
 class dlgScale;
 class frmFermentation;
 class frmComments;
+class frmRecReader;
 class frmHopsUtilization;
 class frmUnitMashData;
 class frmStyleMatch;
 class frmBeerStyles;
+class frmInventory;
+class frmShoppingLst;
+class frmInvCheck;
+class frmBatchLogList;
 
 class ProgramWindows : public QObject {
   Q_OBJECT
@@ -36,10 +41,15 @@ class ProgramWindows : public QObject {
   dlgScale& scale();
   frmFermentation& fermentation();
   frmComments& comments();
+  frmRecReader& recReader();
   frmHopsUtilization& hopsUtilization();
   frmUnitMashData& unitMashData();
   frmStyleMatch& styleMatch();
   frmBeerStyles& beerStyles();
+  frmInventory& inventory();
+  frmShoppingLst& shoppingList();
+  frmInvCheck& invCheck();
+  frmBatchLogList& batchLogList();
 
   // What the menus and buttons do.
   void showRecipeList();
@@ -48,6 +58,7 @@ class ProgramWindows : public QObject {
   void openScale();
   void showFermentation();
   void showComments();
+  void showRecReader();
   void showHopsUtilization();
   void showUnitMashData();
   void showStyleMatch();
@@ -55,6 +66,14 @@ class ProgramWindows : public QObject {
   void openStyleFilter();
   // The style browser, on the named style when one is given.
   void showBeerStyles(const std::string& styleName = "");
+  // The inventory; `toPickIngredients` opens it in its "Add To Recipe" mode for the editor.
+  void showInventory(bool toPickIngredients);
+  void showShoppingList();
+  // The editor's whole recipe goes to the shopping list, which comes forward.
+  void addRecipeToShoppingList();
+  void showInvCheck();
+  // The logs of the open recipe (once it has been saved).
+  void showBatchLogList();
   // Closes every window that was created (they close for good while appClosing is set).
   void closeAll();
 
@@ -75,8 +94,13 @@ class ProgramWindows : public QObject {
   QPointer<dlgScale> scale_;
   QPointer<frmFermentation> fermentation_;
   QPointer<frmComments> comments_;
+  QPointer<frmRecReader> recReader_;
   QPointer<frmUnitMashData> unitMashData_;
   QPointer<frmStyleMatch> styleMatch_;
+  std::unique_ptr<frmInventory> inventory_;
+  std::unique_ptr<frmShoppingLst> shoppingList_;
+  std::unique_ptr<frmInvCheck> invCheck_;
+  QPointer<frmBatchLogList> batchLogList_;
 };
 
 }  // namespace zy

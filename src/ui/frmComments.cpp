@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "recipes/RecipeEditor.h"
+#include "recipes/SmartInstructions.h"
 #include "ui/QtPrompter.h"
 #include "ui/RecipeIcons.h"
 #include "ui/TopicIcons.h"
@@ -31,10 +32,8 @@ frmComments::frmComments(Workbench& wb, RecipeEditor& editor, QWidget* parent)
   mnuFileExport = file->addAction(recipeIcon("Export"), "&Export Text...", this, [this] { mnuFileExport_Click(); });
   mnuFileExport->setToolTip("Write the comment to a text file");
   file->addSeparator();
-  mnuSmartInstructions = file->addAction("S&mart Instructions");
-  mnuSmartInstructions->setEnabled(false);
-  mnuSmartInstructions->setToolTip("Comes with the text tools");
-  mnuSmartInstructions->setStatusTip("Comes with the text tools");
+  mnuSmartInstructions = file->addAction("S&mart Instructions", this, [this] { mnuFileSmart_Click(); });
+  mnuSmartInstructions->setToolTip("Write brewing instructions for the recipe into the comment");
   file->addSeparator();
   mnuFileClose = file->addAction("&Close", this, &QWidget::close);
   file->setToolTipsVisible(true);
@@ -130,6 +129,14 @@ void frmComments::mnuFileExport_Click() {
   const auto path = wb_.prompter.saveFile("Export Comments", kFilter, folder.empty() ? "comments.txt" : folder + "/comments.txt");
   if (!path || path->empty()) return;
   editor_.exportComment(*path);
+}
+
+void frmComments::mnuFileSmart_Click() {
+  std::string comment = editor_.comments.comment;
+  if (!applySmartInstructions(editor_, comment)) return;
+  editor_.setCommentField(RecipeEditor::CommentField::Comment, comment);
+  refreshFromModel();
+  if (changed) changed();
 }
 
 void frmComments::closeEvent(QCloseEvent* event) {
