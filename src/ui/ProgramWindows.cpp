@@ -1,8 +1,15 @@
 #include "ui/ProgramWindows.h"
 
 #include <QEvent>
+#include <QInputDialog>
 
 #include "ui/dlgFilterBeerStyles.h"
+#include "ui/dlgNewRecipe.h"
+#include "ui/frmAdvMaltFormulator.h"
+#include "ui/frmMash.h"
+#include "ui/frmStarter.h"
+#include "ui/frmWaterMgmt.h"
+#include "ui/frmWaterTreatment.h"
 #include "ui/dlgScale.h"
 #include "ui/frmBeerStyles.h"
 #include "ui/frmHopsUtilization.h"
@@ -21,6 +28,8 @@
 #include "ui/frmRecReader.h"
 #include "ui/frmRecipe.h"
 #include "ui/frmRecipeList.h"
+#include "ui/QtPrompter.h"
+#include "core/text.h"
 
 namespace zy {
 
@@ -81,6 +90,11 @@ frmRecipe& ProgramWindows::recipe() {
     r.setToolOpener(RecipeTool::UnitMashData, [this] { showUnitMashData(); });
     r.setToolOpener(RecipeTool::StyleMatch, [this] { showStyleMatch(); });
     r.setToolOpener(RecipeTool::StyleFilter, [this] { openStyleFilter(); });
+    r.setToolOpener(RecipeTool::WaterMgmt, [this] { showCalculator(waterMgmt()); });
+    r.setToolOpener(RecipeTool::WaterTreatment, [this] { showCalculator(waterTreatment()); });
+    r.setToolOpener(RecipeTool::MashInfo, [this] { showCalculator(mash()); });
+    r.setToolOpener(RecipeTool::MaltFormulator, [this] { showCalculator(maltFormulator()); });
+    r.setToolOpener(RecipeTool::Starter, [this] { showCalculator(starter()); });
     r.setToolOpener(RecipeTool::BeerStyles, [this] {
       showBeerStyles(recipe_->editor().cboBeerStyleText);
     });
@@ -104,6 +118,7 @@ frmRecipe& ProgramWindows::recipe() {
       if (styleMatch_) styleMatch_->close();
       if (unitMashData_) unitMashData_->close();
       if (batchLogList_) batchLogList_->close();
+      closeCalculators();
     });
   }
   return *recipe_;
@@ -187,6 +202,7 @@ frmBeerStyles& ProgramWindows::beerStyles() {
       if (!recipe_ || !recipe_->isVisible()) return std::nullopt;
       return recipe_->editor().styleValues();
     };
+    b.newRecipe = [this](int row) { openNewRecipe(row); };
     // A changed style table: the editor's list is rebuilt and keeps the recipe's style.
     b.stylesChanged = [this] {
       if (!recipe_) return;
@@ -195,6 +211,103 @@ frmBeerStyles& ProgramWindows::beerStyles() {
     };
   }
   return *beerStyles_;
+}
+
+frmWaterMgmt& ProgramWindows::waterMgmt() {
+  if (!waterMgmt_) {
+    waterMgmt_ = new frmWaterMgmt(wb_, recipe().editor(), &recipe());
+    waterMgmt_->applied = [this] { recipeChangedByTool(); };
+    waterMgmt_->openHelp = [this](const QString& page) { showHelpTopic(page); };
+  }
+  return *waterMgmt_;
+}
+
+frmWaterTreatment& ProgramWindows::waterTreatment() {
+  if (!waterTreatment_) {
+    waterTreatment_ = new frmWaterTreatment(wb_, recipe().editor(), &recipe());
+    waterTreatment_->applied = [this] { recipeChangedByTool(); };
+    waterTreatment_->openHelp = [this](const QString& page) { showHelpTopic(page); };
+  }
+  return *waterTreatment_;
+}
+
+frmMash& ProgramWindows::mash() {
+  if (!mash_) {
+    mash_ = new frmMash(wb_, recipe().editor(), &recipe());
+    mash_->applied = [this] { recipeChangedByTool(); };
+    mash_->openHelp = [this](const QString& page) { showHelpTopic(page); };
+    mash_->openUnitMashData = [this] { showUnitMashData(); };
+  }
+  return *mash_;
+}
+
+frmAdvMaltFormulator& ProgramWindows::maltFormulator() {
+  if (!maltFormulator_) {
+    maltFormulator_ = new frmAdvMaltFormulator(wb_, recipe().editor(), &recipe());
+    maltFormulator_->applied = [this] { recipeChangedByTool(); };
+    maltFormulator_->openHelp = [this](const QString& page) { showHelpTopic(page); };
+    // Malts come from the inventory's malt list, picked by name.
+    maltFormulator_->setAddFromInventory([this](MaltFormulator& m) {
+      const InventoryList& malts = wb_.inventory.list(INV_MALT);
+      if (malts.empty()) {
+        wb_.prompter.message("There are no malts in the inventory", "Add To Recipe", Icon::Information, Buttons::OK);
+        return;
+      }
+      QStringList names;
+      for (const InventoryRow& row : malts.rows) names << qs(trim(row.cells.empty() ? std::string() : row.cells[0]));
+      bool ok = false;
+      const QString chosen =
+          QInputDialog::getItem(maltFormulator_, "Add To Recipe", "Malt from the inventory:", names, 0, false, &ok);
+      const qsizetype at = names.indexOf(chosen);
+      if (ok && at >= 0) m.addInventoryMalt(INV_MALT, inventoryItemFromRow(INV_MALT, malts.rows[static_cast<size_t>(at)]));
+    });
+  }
+  return *maltFormulator_;
+}
+
+frmStarter& ProgramWindows::starter() {
+  if (!starter_) {
+    starter_ = new frmStarter(wb_, recipe().editor(), &recipe());
+    starter_->applied = [this] { recipeChangedByTool(); };
+    starter_->openHelp = [this](const QString& page) { showHelpTopic(page); };
+  }
+  return *starter_;
+}
+
+// A hidden calculator fills itself from the recipe as it shows; one already open keeps what the
+// brewer has typed in it and only comes forward.
+void ProgramWindows::showCalculator(QWidget& w) { bringForward(w); }
+
+void ProgramWindows::recipeChangedByTool() {
+  if (!recipe_) return;
+  recipe_->refreshFromModel();
+  if (fermentation_) fermentation_->refreshFromModel();
+  if (comments_) comments_->refreshFromModel();
+}
+
+void ProgramWindows::closeCalculators() {
+  for (QWidget* w : std::initializer_list<QWidget*>{waterMgmt_, waterTreatment_, mash_, maltFormulator_, starter_})
+    if (w) w->close();
+}
+
+void ProgramWindows::openNewRecipe(int styleRow) {
+  dlgNewRecipe dlg(wb_, styleRow, beerStyles_ ? static_cast<QWidget*>(beerStyles_.get()) : nullptr);
+  dlg.openHelp = [this](const QString& page) { showHelpTopic(page); };
+  dlg.create = [this](NewRecipeDialog& m) {
+    frmRecipe& r = recipe();
+    frmAdvMaltFormulator& f = maltFormulator();
+    // A formulator still open on the old recipe is closed first (it may ask to export, and
+    // Cancel there ends the action).
+    f.close();
+    if (f.isVisible()) return false;
+    const RecipeOpenHooks hooks = r.editor().openHooks();
+    if (m.cmdOK(r.editor(), f.model, inventoryMaltFinder(wb_.inventory), &hooks) < 1) return false;
+    showRecipe();
+    f.keepModelAtNextShow();
+    bringForward(f);
+    return true;
+  };
+  dlg.exec();
 }
 
 // Each of these windows fills itself from the model when it is shown; one that is open already
@@ -331,6 +444,7 @@ void ProgramWindows::showRecReader() { bringForward(recReader()); }
 void ProgramWindows::closeAll() {
   if (recReader_) recReader_->close();
   if (beerStyles_) beerStyles_->close();
+  closeCalculators();
   if (hopsUtilization_) hopsUtilization_->close();
   if (styleMatch_) styleMatch_->close();
   if (unitMashData_) unitMashData_->close();

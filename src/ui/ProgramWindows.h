@@ -22,6 +22,11 @@ class frmHopsUtilization;
 class frmUnitMashData;
 class frmStyleMatch;
 class frmBeerStyles;
+class frmWaterMgmt;
+class frmWaterTreatment;
+class frmMash;
+class frmAdvMaltFormulator;
+class frmStarter;
 class frmInventory;
 class frmShoppingLst;
 class frmInvCheck;
@@ -46,6 +51,11 @@ class ProgramWindows : public QObject {
   frmUnitMashData& unitMashData();
   frmStyleMatch& styleMatch();
   frmBeerStyles& beerStyles();
+  frmWaterMgmt& waterMgmt();
+  frmWaterTreatment& waterTreatment();
+  frmMash& mash();
+  frmAdvMaltFormulator& maltFormulator();
+  frmStarter& starter();
   frmInventory& inventory();
   frmShoppingLst& shoppingList();
   frmInvCheck& invCheck();
@@ -66,6 +76,11 @@ class ProgramWindows : public QObject {
   void openStyleFilter();
   // The style browser, on the named style when one is given.
   void showBeerStyles(const std::string& styleName = "");
+  // The brewing calculators, each filled from the open recipe when it is shown.
+  void showCalculator(QWidget& w);
+  // A new recipe for the style of row `styleRow`: the dialog, then the editor and the malt
+  // formulator on the style's grain bill.
+  void openNewRecipe(int styleRow);
   // The inventory; `toPickIngredients` opens it in its "Add To Recipe" mode for the editor.
   void showInventory(bool toPickIngredients);
   void showShoppingList();
@@ -83,6 +98,9 @@ class ProgramWindows : public QObject {
  private:
   void showHelpTopic(const QString& page);
   void openProperties(QWidget* over);
+  // A calculator handed a result to the recipe: the editor and its companions repaint.
+  void recipeChangedByTool();
+  void closeCalculators();
 
   Workbench& wb_;
   frmMain& main_;
@@ -97,6 +115,12 @@ class ProgramWindows : public QObject {
   QPointer<frmRecReader> recReader_;
   QPointer<frmUnitMashData> unitMashData_;
   QPointer<frmStyleMatch> styleMatch_;
+  // The calculators belong to the editor's window too.
+  QPointer<frmWaterMgmt> waterMgmt_;
+  QPointer<frmWaterTreatment> waterTreatment_;
+  QPointer<frmMash> mash_;
+  QPointer<frmAdvMaltFormulator> maltFormulator_;
+  QPointer<frmStarter> starter_;
   std::unique_ptr<frmInventory> inventory_;
   std::unique_ptr<frmShoppingLst> shoppingList_;
   std::unique_ptr<frmInvCheck> invCheck_;

@@ -3,6 +3,7 @@
 #include "calculators/CalcBench.h"
 #include "calculators/MaltFormulator.h"
 #include "core/numfmt.h"
+#include "inventory/InventoryStore.h"
 
 using namespace zy;
 using namespace zy::test;
@@ -113,4 +114,22 @@ TEST(MaltFormulator, FixedPercentagesExportToTheRecipe) {
   EXPECT_TRUE(b.cb.editor.recipeChanged() && !b.f.changed);
   EXPECT_EQ(shownLines(b.cb.b.prompter)[0],
             "Advanced Malt Formulator: No Calculations Performed, There are No Changes to Export");
+}
+
+TEST(MaltFormulator, AnInventoryMaltJoinsTheListWithItsOwnValues) {
+  CalcBench cb;
+  cb.open({CalcBench::pale()});
+  MaltFormulator f(cb.editor);
+  f.load();
+  InventoryItem item;
+  item.name = "Maris Otter", item.units = UNIT_KG, item.cost = 2.2, item.color = 3.5, item.extract = 1.038, item.mash = 1;
+  EXPECT_FALSE(f.addInventoryMalt(INV_HOPS, item));
+  ASSERT_TRUE(f.addInventoryMalt(INV_MALT, item));
+  const FormulatorMalt& m = f.lvMalts.back();
+  EXPECT_EQ(m.name + "|" + m.quantity + "|" + m.cost + "|" + m.color + "|" + m.extraction + "|" + m.targetPct,
+            "Maris Otter|0.0|$2.20|3.5|1.038|0.0");
+  EXPECT_EQ(m.unit, UNIT_KG);
+  EXPECT_TRUE(m.mash);
+  EXPECT_TRUE(f.changed);
+  EXPECT_EQ(f.lvMalts.size(), 2u);
 }
