@@ -49,24 +49,28 @@ frmComments::frmComments(Workbench& wb, RecipeEditor& editor, QWidget* parent)
   txtDateCreated = new QLineEdit(central);
   txtDateCreated->setObjectName("txtDateCreated");
   txtDateCreated->setMaxLength(11);
-  txtDateCreated->setMaximumWidth(110);
+  txtDateCreated->setMinimumWidth(txtDateCreated->fontMetrics().horizontalAdvance("MMM-00-00000") + 12);
+  txtDateCreated->setMaximumWidth(120);
   txtDateCreated->setToolTip("When the recipe was created, as mmm-dd-yyyy");
   txtIdCode = new QLineEdit(central);
   txtIdCode->setObjectName("txtIdCode");
   txtIdCode->setMaxLength(10);
-  txtIdCode->setMaximumWidth(110);
+  txtIdCode->setMinimumWidth(txtDateCreated->minimumWidth());
+  txtIdCode->setMaximumWidth(120);
   txtIdCode->setToolTip("Your own code for the recipe");
   txtLabelName = new QLineEdit(central);
   txtLabelName->setObjectName("txtLabelName");
   txtLabelName->setMaxLength(35);
   txtLabelName->setToolTip("The name on the bottle label");
   form->addRow("&Date Created:", txtDateCreated);
-  form->addRow("I&D Code:", txtIdCode);
+  form->addRow("&ID Code:", txtIdCode);
   form->addRow("&Label Name:", txtLabelName);
   box->addLayout(form);
   auto* lbl = new QLabel("&Comments:", central);
   txtComment = new QPlainTextEdit(central);
   txtComment->setObjectName("txtComment");
+  txtComment->setTabChangesFocus(true);
+  txtComment->setToolTip("Notes on the recipe: where it came from, how it turned out, what to change next time");
   lbl->setBuddy(txtComment);
   box->addWidget(lbl);
   box->addWidget(txtComment, 1);
@@ -92,6 +96,7 @@ frmComments::frmComments(Workbench& wb, RecipeEditor& editor, QWidget* parent)
   });
 
   refreshFromModel();
+  setMinimumSize(360, 260);
   restoreWindowPlacement(*this, wb_.settings, kSection, QSize(385, 239), QPoint(200, 160), QSize(480, 380));
 }
 
