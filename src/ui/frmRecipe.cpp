@@ -765,9 +765,15 @@ void frmRecipe::showToolStates() {
     if (static_cast<RecipeTool>(i) == RecipeTool::MashInfo) on = on && editor_.mashInfoEnabled;
     QString tip = present ? toolInfo()[i].tip : toolInfo()[i].missing;
     if (present && !on) tip = "Mash Information needs a recipe with a mash";
+    // The water management button follows the mash type as the mash button does; its menu
+    // entry stays open for a recipe without a mash.
+    const bool waterButton = static_cast<RecipeTool>(i) == RecipeTool::WaterMgmt;
+    const bool buttonOn = waterButton ? on && editor_.mashInfoEnabled : on;
     for (QAction* a : toolActions_[i]) {
-      a->setEnabled(on);
-      setTip(a, tip);
+      const bool isButton = waterButton && a == tb["WaterMgmt"];
+      a->setEnabled(isButton ? buttonOn : on);
+      setTip(a, isButton && on && !buttonOn ? QString("Water Management from the toolbar needs a recipe with a mash")
+                                            : tip);
     }
     for (QWidget* w : toolWidgets_[i]) {
       w->setEnabled(on);

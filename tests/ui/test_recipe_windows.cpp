@@ -252,6 +252,8 @@ TEST_F(WindowsTest, ToolsWithoutAWindowStayDisabledWithATip) {
   model().mashDataChanged();
   r.refreshFromModel();
   EXPECT_FALSE(r.mnuInstructMashInfo->isEnabled());
+  EXPECT_FALSE(r.tb["WaterMgmt"]->isEnabled());
+  EXPECT_TRUE(r.mnuInstructWaterMgmt->isEnabled());
   EXPECT_EQ(r.lblMashEff->text(), "N/A");
 
   // Help opens each window's own page.
