@@ -12,6 +12,7 @@
 #include "ui/QtPrompter.h"
 #include "ui/RecipeIcons.h"
 #include "ui/frmHelp.h"
+#include "ui/WindowPlacement.h"
 
 namespace zy {
 
@@ -87,12 +88,7 @@ void CalcWindow::closeEvent(QCloseEvent* event) {
     return;
   }
   if (isVisible()) saveWindowPlacement(*this, wb_.settings, section_);
-  if (wb_.appClosing) {
-    event->accept();
-    return;
-  }
-  event->ignore();
-  hide();
+  hideUnlessAppClosing(*this, wb_, event);
 }
 
 void CalcWindow::keyPressEvent(QKeyEvent* event) {

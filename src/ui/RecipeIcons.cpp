@@ -1,11 +1,9 @@
 #include "ui/RecipeIcons.h"
 
-#include <QGuiApplication>
 #include <QMap>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
-#include <QScreen>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -13,7 +11,6 @@
 #include <cmath>
 
 #include "core/settings.h"
-#include "workbench/Startup.h"
 
 namespace zy {
 
@@ -337,36 +334,6 @@ QIcon recipeIcon(const QString& key) {
   auto it = cache.find(key);
   if (it == cache.end()) it = cache.insert(key, make(key));
   return *it;
-}
-
-void restoreWindowPlacement(QWidget& w, const SettingsStore& store, const std::string& section, QSize defaultSize,
-                            QPoint defaultPos, QSize minimum) {
-  WindowPlacement computed;
-  computed.left = pixelsToTwips(defaultPos.x());
-  computed.top = pixelsToTwips(defaultPos.y());
-  computed.width = pixelsToTwips(defaultSize.width());
-  computed.height = pixelsToTwips(defaultSize.height());
-  const WindowPlacement p = readPlacement(store, section, computed);
-  QRect r(twipsToPixels(p.left), twipsToPixels(p.top), twipsToPixels(p.width), twipsToPixels(p.height));
-  r.setWidth(std::max({r.width(), minimum.width(), w.minimumWidth()}));
-  r.setHeight(std::max({r.height(), minimum.height(), w.minimumHeight()}));
-  QRect avail(0, 0, 1280, 800);
-  if (QScreen* s = QGuiApplication::primaryScreen()) avail = s->availableGeometry();
-  // A place that left the screens (a monitor that is gone) comes back to the visible area.
-  if (!avail.intersects(r.adjusted(0, 0, -r.width() / 2, -r.height() / 2))) r.moveTopLeft(avail.topLeft() + defaultPos);
-  w.resize(r.size());
-  w.move(r.topLeft());
-  if (p.state == WINDOW_MAXIMIZED) w.setWindowState(Qt::WindowMaximized);
-}
-
-void saveWindowPlacement(const QWidget& w, SettingsStore& store, const std::string& section) {
-  WindowPlacement p;
-  p.state = w.isMinimized() ? WINDOW_MINIMIZED : w.isMaximized() ? WINDOW_MAXIMIZED : WINDOW_NORMAL;
-  p.left = pixelsToTwips(w.pos().x());
-  p.top = pixelsToTwips(w.pos().y());
-  p.width = pixelsToTwips(w.width());
-  p.height = pixelsToTwips(w.height());
-  writePlacement(store, section, p, false);
 }
 
 UpDown::UpDown(QWidget* parent) : QWidget(parent) {

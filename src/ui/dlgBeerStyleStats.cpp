@@ -50,7 +50,7 @@ void dlgBeerStyleStats::refresh() {
 
 void dlgBeerStyleStats::showEvent(QShowEvent* event) {
   if (!placed_) {
-    restoreStylePlacement(this, wb_.settings, kSection, QSize(320, 170));
+    restoreCentredPlacement(*this, wb_.settings, kSection, QSize(320, 170));
     placed_ = true;
   }
   refresh();
@@ -58,7 +58,7 @@ void dlgBeerStyleStats::showEvent(QShowEvent* event) {
 }
 
 void dlgBeerStyleStats::done(int result) {
-  saveStylePlacement(this, wb_.settings, kSection);
+  saveWindowPlacement(*this, wb_.settings, kSection);
   QDialog::done(result);
 }
 

@@ -86,7 +86,7 @@ void dlgFilterBeerStyles::load() {
 int dlgFilterBeerStyles::exec() {
   load();
   if (!placed_) {
-    restoreStylePlacement(this, wb_.settings, kSection, QSize(420, 170));
+    restoreCentredPlacement(*this, wb_.settings, kSection, QSize(420, 170));
     placed_ = true;
   }
   return QDialog::exec();
@@ -110,7 +110,7 @@ bool dlgFilterBeerStyles::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void dlgFilterBeerStyles::done(int result) {
-  saveStylePlacement(this, wb_.settings, kSection);
+  saveWindowPlacement(*this, wb_.settings, kSection);
   QDialog::done(result);
 }
 

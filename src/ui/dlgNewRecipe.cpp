@@ -11,6 +11,7 @@
 
 #include "ui/QtPrompter.h"
 #include "ui/RecipeIcons.h"
+#include "ui/WindowPlacement.h"
 
 namespace zy {
 

@@ -25,6 +25,7 @@
 #include "ui/RecipeIcons.h"
 #include "ui/TopicIcons.h"
 #include "ui/frmHelp.h"
+#include "ui/WindowPlacement.h"
 
 namespace zy {
 
@@ -401,12 +402,7 @@ void frmAdvMaltFormulator::closeEvent(QCloseEvent* event) {
     if (was && !model.changed && applied) applied();
     saveWindowPlacement(*this, wb_.settings, kSection);
   }
-  if (wb_.appClosing) {
-    event->accept();
-    return;
-  }
-  event->ignore();
-  hide();
+  hideUnlessAppClosing(*this, wb_, event);
 }
 
 }  // namespace zy

@@ -28,6 +28,7 @@
 #include "ui/RecipeIcons.h"
 #include "ui/TopicIcons.h"
 #include "ui/frmBatchLogCmts.h"
+#include "ui/WindowPlacement.h"
 
 namespace zy {
 
@@ -657,12 +658,7 @@ void frmBatchLog::closeEvent(QCloseEvent* event) {
   placed.top = y() * kTwips;
   if (!isMinimized()) placed.write(wb_.settings);
   if (comments_) comments_->close();
-  if (wb_.appClosing) {
-    event->accept();
-    return;
-  }
-  event->ignore();
-  hide();
+  hideUnlessAppClosing(*this, wb_, event);
 }
 
 }  // namespace zy

@@ -10,6 +10,7 @@
 #include "ui/QtPrompter.h"
 #include "ui/RecipeIcons.h"
 #include "ui/TopicIcons.h"
+#include "ui/WindowPlacement.h"
 
 namespace zy {
 
@@ -102,12 +103,7 @@ void frmBatchLogCmts::mnuFileExport_Click() {
 
 void frmBatchLogCmts::closeEvent(QCloseEvent* event) {
   saveWindowPlacement(*this, wb_.settings, kBatchLogCommentsSection);
-  if (wb_.appClosing) {
-    event->accept();
-    return;
-  }
-  event->ignore();
-  hide();
+  hideUnlessAppClosing(*this, wb_, event);
 }
 
 }  // namespace zy

@@ -17,6 +17,7 @@
 #include "ui/RecipeIcons.h"
 #include "ui/TopicIcons.h"
 #include "ui/frmBatchLog.h"
+#include "ui/WindowPlacement.h"
 
 namespace zy {
 
@@ -185,12 +186,7 @@ void frmBatchLogList::closeEvent(QCloseEvent* event) {
     }
   }
   saveWindowPlacement(*this, wb_.settings, kSection);
-  if (wb_.appClosing) {
-    event->accept();
-    return;
-  }
-  event->ignore();
-  hide();
+  hideUnlessAppClosing(*this, wb_, event);
 }
 
 }  // namespace zy

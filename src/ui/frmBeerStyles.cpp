@@ -357,7 +357,7 @@ void frmBeerStyles::showStatistics() {
 
 void frmBeerStyles::showEvent(QShowEvent* event) {
   if (!placed_) {
-    restoreStylePlacement(this, wb_.settings, StyleBrowserSettings::kSection, QSize(980, 620));
+    restoreCentredPlacement(*this, wb_.settings, StyleBrowserSettings::kSection, QSize(980, 620));
     placed_ = true;
   }
   showDetails();  // the recipe's values may have changed while hidden
@@ -369,7 +369,7 @@ void frmBeerStyles::closeEvent(QCloseEvent* event) {
   s.sourceFilter = editor.sourceFilter;
   for (int c = 0; c < 3; ++c) s.columnWidths[static_cast<size_t>(c)] = lvStyles->columnWidth(c);
   s.write(wb_.settings);
-  closeStyleWindow(this, wb_, StyleBrowserSettings::kSection, event);
+  closeKeepingPlacement(*this, wb_, StyleBrowserSettings::kSection, event);
 }
 
 }  // namespace zy

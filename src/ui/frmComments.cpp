@@ -13,6 +13,7 @@
 #include "ui/QtPrompter.h"
 #include "ui/RecipeIcons.h"
 #include "ui/TopicIcons.h"
+#include "ui/WindowPlacement.h"
 
 namespace zy {
 
@@ -141,12 +142,7 @@ void frmComments::mnuFileSmart_Click() {
 
 void frmComments::closeEvent(QCloseEvent* event) {
   saveWindowPlacement(*this, wb_.settings, kSection);
-  if (wb_.appClosing) {
-    event->accept();
-    return;
-  }
-  event->ignore();
-  hide();
+  hideUnlessAppClosing(*this, wb_, event);
 }
 
 }  // namespace zy

@@ -20,6 +20,7 @@
 #include "recipes/FermentationForm.h"
 #include "ui/QtPrompter.h"
 #include "ui/RecipeIcons.h"
+#include "ui/WindowPlacement.h"
 #include "workbench/Startup.h"
 
 namespace zy {
@@ -180,9 +181,7 @@ frmFermentation::frmFermentation(Workbench& wb, FermentationForm& form, QWidget*
   refreshFromModel();
   // Only the place is kept; the size is the window's own.
   adjustSize();
-  const QPoint at(twipsToPixels(static_cast<long>(lenientValue(wb_.settings.read(kSection, "MainLeft", "1500")))),
-                  twipsToPixels(static_cast<long>(lenientValue(wb_.settings.read(kSection, "MainTop", "1500")))));
-  move(at);
+  restoreWindowPosition(*this, wb_.settings, kSection, "1500");
 }
 
 void frmFermentation::refreshFromModel() {
@@ -217,14 +216,8 @@ void frmFermentation::showAgeState() {
 }
 
 void frmFermentation::closeEvent(QCloseEvent* event) {
-  wb_.settings.write(kSection, "MainLeft", std::to_string(pixelsToTwips(pos().x())));
-  wb_.settings.write(kSection, "MainTop", std::to_string(pixelsToTwips(pos().y())));
-  if (wb_.appClosing) {
-    event->accept();
-    return;
-  }
-  event->ignore();
-  hide();
+  saveWindowPosition(*this, wb_.settings, kSection);
+  hideUnlessAppClosing(*this, wb_, event);
 }
 
 }  // namespace zy

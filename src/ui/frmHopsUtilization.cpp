@@ -14,7 +14,6 @@
 #include <QPainterPath>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScreen>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTableWidget>
@@ -22,6 +21,7 @@
 
 #include "ui/QtPrompter.h"
 #include "ui/frmHelp.h"
+#include "ui/WindowPlacement.h"
 #include "workbench/Startup.h"
 
 namespace zy {
@@ -581,44 +581,18 @@ void frmHopsUtilization::showEvent(QShowEvent* event) {
   if (!event->spontaneous()) {
     if (!placed_) {
       placed_ = true;
-      WindowPlacement computed;
-      computed.width = pixelsToTwips(width());
-      computed.height = pixelsToTwips(height());
-      if (const QScreen* s = screen()) {
-        const QRect a = s->availableGeometry();
-        computed.left = pixelsToTwips(a.x() + (a.width() - width()) / 2);
-        computed.top = pixelsToTwips(a.y() + (a.height() - height()) / 2);
-      }
-      const WindowPlacement p = readPlacement(wb_.settings, kSection, computed);
-      resize(twipsToPixels(p.width), twipsToPixels(p.height));
-      move(twipsToPixels(p.left), twipsToPixels(p.top));
-      if (p.state == WINDOW_MAXIMIZED) setWindowState(windowState() | Qt::WindowMaximized);
+      restoreScreenCentredPlacement(*this, wb_.settings, kSection, true);
     }
     load();
   }
   QWidget::showEvent(event);
 }
 
-void frmHopsUtilization::savePlacement() {
-  WindowPlacement p;
-  p.state = isMinimized() ? WINDOW_MINIMIZED : isMaximized() ? WINDOW_MAXIMIZED : WINDOW_NORMAL;
-  p.left = pixelsToTwips(pos().x());
-  p.top = pixelsToTwips(pos().y());
-  p.width = pixelsToTwips(width());
-  p.height = pixelsToTwips(height());
-  writePlacement(wb_.settings, kSection, p, false);
-}
-
 void frmHopsUtilization::closeEvent(QCloseEvent* event) {
   discardEditor();
-  if (isVisible()) savePlacement();
-  if (wb_.appClosing) {
-    event->accept();
-    return;
-  }
+  if (isVisible()) saveWindowPlacement(*this, wb_.settings, kSection);
   // Kept for the next opening, which reloads it from the curve in use.
-  event->ignore();
-  hide();
+  hideUnlessAppClosing(*this, wb_, event);
 }
 
 }  // namespace zy

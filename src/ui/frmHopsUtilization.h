@@ -97,7 +97,6 @@ class frmHopsUtilization : public QWidget {
   void commitEditor();
   void discardEditor();
   int factorIndex(QObject* o) const;
-  void savePlacement();
 
   Workbench& wb_;
   frmHelp* help_ = nullptr;

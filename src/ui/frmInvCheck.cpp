@@ -52,7 +52,7 @@ frmInvCheck::frmInvCheck(Workbench& wb, RecipeEditor& editor, QWidget* parent)
   connect(cmdAddShort, &QPushButton::clicked, this, [this] { cmdAddShort_Click(); });
   connect(cmdRefresh, &QPushButton::clicked, this, [this] { refresh(); });
   connect(cmdClose, &QPushButton::clicked, this, &QWidget::close);
-  restoreStylePlacement(this, wb_.settings, kSection, QSize(680, 360));
+  restoreCentredPlacement(*this, wb_.settings, kSection, QSize(680, 360));
 }
 
 void frmInvCheck::refresh() {
@@ -83,6 +83,6 @@ int frmInvCheck::cmdAddShort_Click() {
   return n;
 }
 
-void frmInvCheck::closeEvent(QCloseEvent* event) { closeStyleWindow(this, wb_, kSection, event); }
+void frmInvCheck::closeEvent(QCloseEvent* event) { closeKeepingPlacement(*this, wb_, kSection, event); }
 
 }  // namespace zy

@@ -268,7 +268,7 @@ frmInventory::frmInventory(Workbench& wb, QWidget* parent) : QMainWindow(parent,
   connect(contents, &QAction::triggered, this, helpAt);
   connect(tbHelp, &QAction::triggered, this, helpAt);
 
-  restoreStylePlacement(this, wb_.settings, kSection, QSize(std::max(9555 / kTwipsPerPixel, 840), 6625 / kTwipsPerPixel));
+  restoreCentredPlacement(*this, wb_.settings, kSection, QSize(std::max(9555 / kTwipsPerPixel, 840), 6625 / kTwipsPerPixel));
   setAddToRecipe(nullptr);
   showCategory(INV_MALT);
 }
@@ -410,9 +410,9 @@ void frmInventory::mnuEditComments_Click() {
   v->addWidget(buttons);
   connect(buttons, &QDialogButtonBox::accepted, &dlg, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, &dlg, &QDialog::reject);
-  restoreStylePlacement(&dlg, wb_.settings, "Inventory Comments", QSize(420, 260));
+  restoreCentredPlacement(dlg, wb_.settings, "Inventory Comments", QSize(420, 260));
   const int answer = dlg.exec();
-  saveStylePlacement(&dlg, wb_.settings, "Inventory Comments");
+  saveWindowPlacement(dlg, wb_.settings, "Inventory Comments");
   if (answer != QDialog::Accepted) return;
   model.setComment(static_cast<size_t>(r), replaceAll(s8(text->toPlainText()), "\n", "\r\n"));
   refreshFromModel();
@@ -473,7 +473,7 @@ void frmInventory::closeEvent(QCloseEvent* event) {
   keepColumnWidths();
   model.writeSettings();
   findDialog->hide();
-  closeStyleWindow(this, wb_, kSection, event);
+  closeKeepingPlacement(*this, wb_, kSection, event);
 }
 
 }  // namespace zy

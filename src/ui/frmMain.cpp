@@ -42,6 +42,7 @@
 #include "ui/frmAbout.h"
 #include "ui/frmHelp.h"
 #include "ui/frmProperties.h"
+#include "ui/WindowPlacement.h"
 
 namespace zy {
 
@@ -717,13 +718,7 @@ void frmMain::showHelp(int where) {
 // ---- the end ---------------------------------------------------------------------------------------
 
 WindowPlacement frmMain::currentPlacement() const {
-  WindowPlacement p;
-  p.state = isMinimized() ? WINDOW_MINIMIZED : isMaximized() ? WINDOW_MAXIMIZED : WINDOW_NORMAL;
-  p.left = pixelsToTwips(pos().x());
-  p.top = pixelsToTwips(pos().y());
-  p.width = pixelsToTwips(width());
-  p.height = pixelsToTwips(height());
-  return p;
+  return placementOf(*this);
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {

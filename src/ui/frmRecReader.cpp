@@ -13,6 +13,7 @@
 #include "ui/QtPrompter.h"
 #include "ui/RecipeIcons.h"
 #include "ui/TopicIcons.h"
+#include "ui/WindowPlacement.h"
 
 namespace zy {
 
@@ -128,12 +129,7 @@ void frmRecReader::mnuFileExtractRecipe_Click() {
 
 void frmRecReader::closeEvent(QCloseEvent* event) {
   saveWindowPlacement(*this, wb_.settings, kSection);
-  if (wb_.appClosing) {
-    event->accept();
-    return;
-  }
-  event->ignore();
-  hide();
+  hideUnlessAppClosing(*this, wb_, event);
 }
 
 }  // namespace zy

@@ -24,6 +24,7 @@
 #include "ui/QtPrompter.h"
 #include "ui/RecipeIcons.h"
 #include "ui/TopicIcons.h"
+#include "ui/WindowPlacement.h"
 
 namespace zy {
 
@@ -939,12 +940,7 @@ void frmRecipe::closeEvent(QCloseEvent* event) {
   refreshSaveButton();
   emit closed();
   saveWindowPlacement(*this, wb_.settings, kSection);
-  if (wb_.appClosing) {
-    event->accept();
-    return;
-  }
-  event->ignore();
-  hide();
+  hideUnlessAppClosing(*this, wb_, event);
 }
 
 }  // namespace zy

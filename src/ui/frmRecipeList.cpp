@@ -18,6 +18,7 @@
 #include "ui/RecipeIcons.h"
 #include "ui/TopicIcons.h"
 #include "ui/frmFind.h"
+#include "ui/WindowPlacement.h"
 #include "workbench/Startup.h"
 
 namespace zy {
@@ -341,12 +342,7 @@ void frmRecipeList::mnuSortLogCount_Click() {
 void frmRecipeList::closeEvent(QCloseEvent* event) {
   model().saveSettings(wb_);
   saveWindowPlacement(*this, wb_.settings, kRecipeListSection);
-  if (wb_.appClosing) {
-    event->accept();
-    return;
-  }
-  event->ignore();
-  hide();
+  hideUnlessAppClosing(*this, wb_, event);
 }
 
 }  // namespace zy

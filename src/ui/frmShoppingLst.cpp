@@ -124,7 +124,7 @@ frmShoppingLst::frmShoppingLst(Workbench& wb, QWidget* parent) : QMainWindow(par
   connect(search, &QAction::triggered, this, [helpAt] { helpAt(""); });
   connect(tbHelp, &QAction::triggered, this, [helpAt] { helpAt(""); });
 
-  restoreStylePlacement(this, wb_.settings, kSection, QSize(640, 4315 / kTwipsPerPixel));
+  restoreCentredPlacement(*this, wb_.settings, kSection, QSize(640, 4315 / kTwipsPerPixel));
   refreshFromModel();
 }
 
@@ -199,6 +199,6 @@ void frmShoppingLst::mnuFileExport_Click() {
   wb_.shopping.mnuFileExport(p);
 }
 
-void frmShoppingLst::closeEvent(QCloseEvent* event) { closeStyleWindow(this, wb_, kSection, event); }
+void frmShoppingLst::closeEvent(QCloseEvent* event) { closeKeepingPlacement(*this, wb_, kSection, event); }
 
 }  // namespace zy

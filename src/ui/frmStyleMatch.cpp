@@ -136,7 +136,7 @@ void frmStyleMatch::rowDoubleClicked(int row) {
 
 void frmStyleMatch::showEvent(QShowEvent* event) {
   if (!placed_) {
-    restoreStylePlacement(this, wb_.settings, kSection, QSize(560, 420));
+    restoreCentredPlacement(*this, wb_.settings, kSection, QSize(560, 420));
     placed_ = true;
   }
   refresh();
@@ -155,6 +155,6 @@ void frmStyleMatch::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-void frmStyleMatch::closeEvent(QCloseEvent* event) { closeStyleWindow(this, wb_, kSection, event); }
+void frmStyleMatch::closeEvent(QCloseEvent* event) { closeKeepingPlacement(*this, wb_, kSection, event); }
 
 }  // namespace zy

@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -18,6 +17,7 @@
 #include "recipes/RecipeEditor.h"
 #include "ui/QtPrompter.h"
 #include "ui/frmHelp.h"
+#include "ui/WindowPlacement.h"
 #include "workbench/Startup.h"
 
 namespace zy {
@@ -196,41 +196,16 @@ void frmUnitMashData::showEvent(QShowEvent* event) {
   if (!event->spontaneous()) {
     if (!placed_) {
       placed_ = true;
-      WindowPlacement computed;
-      computed.width = pixelsToTwips(width());
-      computed.height = pixelsToTwips(height());
-      if (const QScreen* s = screen()) {
-        const QRect a = s->availableGeometry();
-        computed.left = pixelsToTwips(a.x() + (a.width() - width()) / 2);
-        computed.top = pixelsToTwips(a.y() + (a.height() - height()) / 2);
-      }
-      const WindowPlacement p = readPlacement(wb_.settings, kSection, computed);
-      resize(twipsToPixels(p.width), twipsToPixels(p.height));
-      move(twipsToPixels(p.left), twipsToPixels(p.top));
+      restoreScreenCentredPlacement(*this, wb_.settings, kSection, false);
     }
     load();
   }
   QWidget::showEvent(event);
 }
 
-void frmUnitMashData::savePlacement() {
-  WindowPlacement p;
-  p.state = isMinimized() ? WINDOW_MINIMIZED : isMaximized() ? WINDOW_MAXIMIZED : WINDOW_NORMAL;
-  p.left = pixelsToTwips(pos().x());
-  p.top = pixelsToTwips(pos().y());
-  p.width = pixelsToTwips(width());
-  p.height = pixelsToTwips(height());
-  writePlacement(wb_.settings, kSection, p, false);
-}
-
 void frmUnitMashData::closeEvent(QCloseEvent* event) {
-  if (isVisible()) savePlacement();
-  if (wb_.appClosing) {
-    event->accept();
-    return;
-  }
-  event->ignore();
-  hide();
+  if (isVisible()) saveWindowPlacement(*this, wb_.settings, kSection);
+  hideUnlessAppClosing(*this, wb_, event);
 }
 
 }  // namespace zy

@@ -57,7 +57,6 @@ class frmUnitMashData : public QWidget {
 
  private:
   void refresh();
-  void savePlacement();
 
   Workbench& wb_;
   RecipeEditor& editor_;
