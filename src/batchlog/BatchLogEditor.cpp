@@ -11,6 +11,7 @@
 #include "core/paths.h"
 #include "core/settings.h"
 #include "core/text.h"
+#include "core/textfile.h"
 #include "recipes/IngredientTable.h"
 #include "recipes/RecipeCalculations.h"
 #include "workbench/Workbench.h"
@@ -509,34 +510,14 @@ void BatchLogEditor::setComments(const std::string& text) {
   logChanged();
 }
 
-namespace {
-void rememberFolder(SettingsStore& s, const std::string& path) {
-  const size_t cut = path.find_last_of('/');
-  s.write(kBatchLogCommentsSection, "File Path", cut == std::string::npos ? std::string() : path.substr(0, cut));
-}
-}  // namespace
-
 bool BatchLogEditor::importComments(const std::string& path) {
-  rememberFolder(wb.settings, path);
-  std::FILE* f = std::fopen(path.c_str(), "rb");
-  if (!f) {
+  rememberTextFolder(wb.settings, kBatchLogCommentsSection, path);
+  const auto bytes = readTextBytes(path, 1 << 20);
+  if (!bytes) {
     wb.prompter.message("Unable to Read " + path, "Import Comments", Icon::Warning);
     return false;
   }
-  std::string bytes, text;
-  char buf[4096];
-  size_t n;
-  while ((n = std::fread(buf, 1, sizeof buf, f)) > 0 && bytes.size() < 1 << 20) bytes.append(buf, n);
-  std::fclose(f);
-  for (size_t i = 0; i < bytes.size(); ++i) {
-    const char c = bytes[i];
-    if (c == '\r' || c == '\n') {
-      text += "\r\n";
-      if (c == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n') ++i;
-    } else if (c != '\0') {
-      text += c;
-    }
-  }
+  std::string text = crlfText(*bytes, true);
   if (text.size() > kBatchLogCommentLength) {
     wb.prompter.message("The Batch Log keeps " + itos(kBatchLogCommentLength) + " characters of comments; the text of " +
                             path + " has " + itos(static_cast<long long>(text.size())) + " and is cut there.",
@@ -548,10 +529,8 @@ bool BatchLogEditor::importComments(const std::string& path) {
 }
 
 bool BatchLogEditor::exportComments(const std::string& path) {
-  rememberFolder(wb.settings, path);
-  std::FILE* f = std::fopen(path.c_str(), "wb");
-  bool ok = f && std::fwrite(txtComments.data(), 1, txtComments.size(), f) == txtComments.size();
-  if (f && std::fclose(f) != 0) ok = false;
+  rememberTextFolder(wb.settings, kBatchLogCommentsSection, path);
+  const bool ok = writeTextBytes(path, txtComments);
   if (!ok) wb.prompter.message("Unable to Generate Output File", "Error", Icon::Critical);
   return ok;
 }

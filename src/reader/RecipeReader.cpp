@@ -5,8 +5,6 @@
 #include <cmath>
 #include <cstring>
 #include <exception>
-#include <fstream>
-#include <sstream>
 #include <vector>
 
 #include "core/measures.h"
@@ -267,23 +265,6 @@ std::string titleCaps(const std::string& text) {
     if (p != std::string::npos) up(p + 1);
   }
   return s;
-}
-
-std::string crlfText(const std::string& text) {
-  std::string out;
-  out.reserve(text.size() + text.size() / 20);
-  for (size_t i = 0; i < text.size(); ++i) {
-    const char ch = text[i];
-    if (ch == '\r') {
-      out += "\r\n";
-      if (i + 1 < text.size() && text[i + 1] == '\n') ++i;
-    } else if (ch == '\n') {
-      out += "\r\n";
-    } else {
-      out += ch;
-    }
-  }
-  return out;
 }
 
 // ---- The reader -------------------------------------------------------------------------------
@@ -785,26 +766,21 @@ void RecipeReader::fermentationDetails(const std::string& line, int stage) {
 }
 
 bool RecipeReader::importText(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  if (!in) {
+  const auto bytes = readTextBytes(path);
+  if (!bytes) {
     editor_.wb.prompter.message("Unable to read the file \"" + path + "\".", "Import Text File", Icon::Warning);
     return false;
   }
-  std::ostringstream buf;
-  buf << in.rdbuf();
-  std::string text = crlfText(buf.str());
+  std::string text = crlfText(*bytes);
   if (isUtf8Text(text)) text = utf8ToCp1252(text);
   if (!txtComment.empty() && txtComment.size() >= 2 && txtComment.substr(txtComment.size() - 2) != "\r\n") txtComment += "\r\n";
   txtComment += text;
-  const size_t slash = path.find_last_of("/\\");
-  editor_.wb.settings.write("Comments", "File Path", slash == std::string::npos ? std::string() : path.substr(0, slash));
+  rememberTextFolder(editor_.wb.settings, "Comments", path);
   return true;
 }
 
 bool RecipeReader::exportText(const std::string& path) {
-  std::ofstream out(path, std::ios::binary | std::ios::trunc);
-  if (out) out << txtComment;
-  if (!out) {
+  if (!writeTextBytes(path, txtComment)) {
     editor_.wb.prompter.message("Unable to Generate Output File", "Export Comments to File", Icon::Warning);
     return false;
   }

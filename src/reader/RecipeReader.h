@@ -8,6 +8,8 @@
 // All positions in the helpers are 1-based, as the user reads a line.
 #include <string>
 
+#include "core/textfile.h"
+
 namespace zy {
 
 class RecipeEditor;
@@ -83,7 +85,5 @@ class RecipeReader {
 
 // True for text that is well-formed UTF-8 with characters beyond ASCII (as opposed to 8-bit text).
 bool isUtf8Text(const std::string& text);
-// Line ends of any platform (CR LF, LF, CR) made CR LF, as the reader cuts its lines.
-std::string crlfText(const std::string& text);
 
 }  // namespace zy

@@ -7,6 +7,7 @@
 #include "core/measures.h"
 #include "core/numfmt.h"
 #include "core/text.h"
+#include "core/textfile.h"
 #include "recipes/RecipeStore.h"
 #include "workbench/Workbench.h"
 
@@ -769,8 +770,7 @@ namespace {
 constexpr const char* kCommentsSection = "Comments";
 
 void rememberCommentFolder(Workbench& wb, const std::string& path) {
-  const size_t cut = path.find_last_of("/\\");
-  wb.settings.write(kCommentsSection, "File Path", cut == std::string::npos ? std::string() : path.substr(0, cut));
+  rememberTextFolder(wb.settings, kCommentsSection, path);
 }
 }  // namespace
 
@@ -786,39 +786,21 @@ void RecipeEditor::setCommentField(CommentField field, const std::string& text) 
 
 bool RecipeEditor::importComment(const std::string& path) {
   rememberCommentFolder(wb, path);
-  std::FILE* f = std::fopen(path.c_str(), "rb");
-  if (!f) {
+  const auto bytes = readTextBytes(path);
+  if (!bytes) {
     // A file picked in the dialog that cannot be read is told, and the comment stays.
     wb.prompter.message("Unable to Read " + path, "Import Comments", Icon::Warning, Buttons::OK);
     return false;
   }
-  std::string bytes, text;
-  char buf[4096];
-  size_t n;
-  while ((n = std::fread(buf, 1, sizeof buf, f)) > 0) bytes.append(buf, n);
-  std::fclose(f);
   // Lines end in CR LF, whichever end the file had.
-  for (size_t i = 0; i < bytes.size(); ++i) {
-    const char c = bytes[i];
-    if (c == '\r') {
-      text += "\r\n";
-      if (i + 1 < bytes.size() && bytes[i + 1] == '\n') ++i;
-    } else if (c == '\n') {
-      text += "\r\n";
-    } else if (c != '\0') {
-      text += c;
-    }
-  }
-  comments.comment = text;
+  comments.comment = crlfText(*bytes, true);
   recChanged();
   return true;
 }
 
 bool RecipeEditor::exportComment(const std::string& path) {
   rememberCommentFolder(wb, path);
-  std::FILE* f = std::fopen(path.c_str(), "wb");
-  bool ok = f && std::fwrite(comments.comment.data(), 1, comments.comment.size(), f) == comments.comment.size();
-  if (f && std::fclose(f) != 0) ok = false;
+  const bool ok = writeTextBytes(path, comments.comment);
   if (!ok) wb.prompter.message("Unable to Generate Output File", "Error", Icon::Critical, Buttons::OK);
   return ok;
 }
