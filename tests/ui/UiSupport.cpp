@@ -1,7 +1,10 @@
 #include "ui/UiSupport.h"
 
+#include <gtest/gtest.h>
+
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDir>
 #include <QGroupBox>
 #include <QImage>
 #include <QLabel>
@@ -165,6 +168,14 @@ bool pictureIsNotBlank(const QString& path) {
     for (int x = 0; x < img.width(); ++x)
       if (img.pixel(x, y) != first) return true;
   return false;
+}
+
+void saveScreenshot(QWidget& w, const QString& dir, const QString& name) {
+  QApplication::processEvents();
+  QTest::qWait(50);
+  const QString path = QDir(dir).filePath(name + ".png");
+  ASSERT_TRUE(w.grab().save(path)) << path.toStdString();
+  EXPECT_TRUE(pictureIsNotBlank(path)) << name.toStdString() << " is one colour";
 }
 
 }  // namespace zy::test

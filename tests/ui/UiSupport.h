@@ -54,4 +54,8 @@ std::vector<std::string> accessKeyClashes(QWidget* window);
 // True when `path` holds a picture of more than one colour (written, and not blank).
 bool pictureIsNotBlank(const QString& path);
 
+// Once the pending events have painted it, saves a picture of `w` as dir/name.png and checks that
+// the file was written and is not one colour.
+void saveScreenshot(QWidget& w, const QString& dir, const QString& name);
+
 }  // namespace zy::test

@@ -23,14 +23,6 @@
 namespace zy::test {
 namespace {
 
-void save(QWidget& w, const QString& dir, const QString& name) {
-  QApplication::processEvents();
-  QTest::qWait(50);
-  const QString path = QDir(dir).filePath(name + ".png");
-  EXPECT_TRUE(w.grab().save(path)) << path.toStdString();
-  EXPECT_TRUE(pictureIsNotBlank(path)) << path.toStdString();
-}
-
 TEST(Screenshots, EveryWindow) {
   const QString dir = qEnvironmentVariable("ZY_SCREENSHOT_DIR");
   if (dir.isEmpty()) GTEST_SKIP() << "ZY_SCREENSHOT_DIR not set";
@@ -45,25 +37,25 @@ TEST(Screenshots, EveryWindow) {
 
   frmSplash splash;
   splash.show();
-  save(splash, dir, "splash");
+  saveScreenshot(splash, dir, "splash");
   splash.close();
 
   frmMain w(*b.wb);
   w.quitOnClose = false;
   w.load("");
   w.showFromSettings();  // the size a first start gives
-  save(w, dir, "main-default");
+  saveScreenshot(w, dir, "main-default");
   w.resize(w.minimumSize());
-  save(w, dir, "main-minimum");
+  saveScreenshot(w, dir, "main-minimum");
   w.resize(1000, 680);
-  save(w, dir, "main");
+  saveScreenshot(w, dir, "main");
   // A topic with pictures beside its text.
   for (int i = 0; i < w.tvwTopics[TreeAllTopics]->topLevelItemCount(); ++i)
     if (w.browser().trees[TreeAllTopics][static_cast<size_t>(i)].icon == TopicIcon::Photo) {
       clickItem(w.tvwTopics[TreeAllTopics], w.tvwTopics[TreeAllTopics]->topLevelItem(i));
       break;
     }
-  save(w, dir, "main-picture");
+  saveScreenshot(w, dir, "main-picture");
   if (w.tvwTopics[TreeAllTopics]->topLevelItemCount() > 2) {
     clickItem(w.tvwTopics[TreeAllTopics], w.tvwTopics[TreeAllTopics]->topLevelItem(2));
   }
@@ -72,44 +64,44 @@ TEST(Screenshots, EveryWindow) {
     w.tvwTopics[TreeMiniBooks]->topLevelItem(0)->setExpanded(true);
     clickItem(w.tvwTopics[TreeMiniBooks], w.tvwTopics[TreeMiniBooks]->topLevelItem(0));
   }
-  save(w, dir, "main-minibooks");
+  saveScreenshot(w, dir, "main-minibooks");
   w.tabTopics->setCurrentIndex(TreeAlsoSee);
-  save(w, dir, "main-alsosee");
+  saveScreenshot(w, dir, "main-alsosee");
   w.tabTopics->setCurrentIndex(TreeSearch);
   QTest::keyClicks(w.txtSearch, "malt");
   QTest::keyClick(w.txtSearch, Qt::Key_Return);
-  save(w, dir, "main-search");
+  saveScreenshot(w, dir, "main-search");
 
   frmProperties p(*b.wb);
   p.show();
   for (int i = 0; i < p.tbsOptions->count(); ++i) {
     p.tbsOptions->setCurrentIndex(i);
-    save(p, dir, QString("properties-%1").arg(i + 1));
+    saveScreenshot(p, dir, QString("properties-%1").arg(i + 1));
   }
   p.close();
 
   frmHelp h(QString(ZY_SOURCE_DIR) + "/data/help");
   h.show();
   h.showContents();
-  save(h, dir, "help-contents");
+  saveScreenshot(h, dir, "help-contents");
   h.showIndex("mash");
-  save(h, dir, "help-index");
+  saveScreenshot(h, dir, "help-index");
   h.showSearch("\"mash efficiency\"");
-  save(h, dir, "help-search");
+  saveScreenshot(h, dir, "help-search");
 
   frmAbout a;
   a.show();
-  save(a, dir, "about");
+  saveScreenshot(a, dir, "about");
 
   dlgSelectFolder folders("Backup All Zythara Databases", b.dir.path().c_str());
   folders.show();
   QTest::qWait(400);  // the folders are read in the background
-  save(folders, dir, "select-folder");
+  saveScreenshot(folders, dir, "select-folder");
   folders.close();
 
   // A message of two lines, as the restore ends.
   whenModalOpens([&](QWidget* box) {
-    save(*box, dir, "message");
+    saveScreenshot(*box, dir, "message");
     box->close();
   });
   QtPrompter qt(&w);

@@ -8,6 +8,7 @@
 
 #include "recipes/RecipeList.h"
 #include "ui/RecipeBench.h"
+#include "ui/UiSupport.h"
 #include "ui/dlgNewRecipe.h"
 #include "ui/frmAdvMaltFormulator.h"
 #include "ui/frmMash.h"
@@ -19,14 +20,6 @@
 
 namespace zy::test {
 namespace {
-
-void shoot(QWidget& w, const QString& dir, const QString& name) {
-  QApplication::processEvents();
-  QTest::qWait(50);
-  const QString path = QDir(dir).filePath(name + ".png");
-  ASSERT_TRUE(w.grab().save(path));
-  EXPECT_TRUE(pictureIsNotBlank(path)) << name.toStdString() << " is one colour";
-}
 
 TEST(Screenshots, CalculatorWindows) {
   const QString dir = qEnvironmentVariable("ZY_SCREENSHOT_DIR");
@@ -49,25 +42,25 @@ TEST(Screenshots, CalculatorWindows) {
   ASSERT_TRUE(r.isVisible());
 
   r.mnuInstructWaterMgmt->trigger();
-  shoot(b.windows->waterMgmt(), dir, "water-management");
+  saveScreenshot(b.windows->waterMgmt(), dir, "water-management");
   r.mnuToolsWaterTreatment->trigger();
   frmWaterTreatment& t = b.windows->waterTreatment();
   t.txtTsp[3]->setText("1.5");
   emit t.txtTsp[3]->textEdited("1.5");
-  shoot(t, dir, "water-treatment");
+  saveScreenshot(t, dir, "water-treatment");
   r.mnuInstructMashInfo->trigger();
   frmMash& m = b.windows->mash();
   m.lvMash->setCurrentItem(m.lvMash->topLevelItem(1));
-  shoot(m, dir, "mash");
+  saveScreenshot(m, dir, "mash");
   r.mnuToolsAdvanced->trigger();
   frmAdvMaltFormulator& f = b.windows->maltFormulator();
   f.mnuComputeOGColor_Click();
-  shoot(f, dir, "malt-formulator");
+  saveScreenshot(f, dir, "malt-formulator");
   r.mnuToolsStarterKraeusening->trigger();
-  shoot(b.windows->starter(), dir, "starter");
+  saveScreenshot(b.windows->starter(), dir, "starter");
   dlgNewRecipe d(*b.wb, 0);
   d.show();
-  shoot(d, dir, "new-recipe");
+  saveScreenshot(d, dir, "new-recipe");
   d.reject();
   b.prompter.answers = {Answer::No, Answer::No, Answer::No, Answer::No, Answer::No, Answer::No};
 }

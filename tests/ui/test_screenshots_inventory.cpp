@@ -22,19 +22,6 @@
 namespace zy::test {
 namespace {
 
-void save(QWidget& w, const QString& dir, const QString& name) {
-  QApplication::processEvents();
-  QTest::qWait(50);
-  const QString path = QDir(dir).filePath(name + ".png");
-  ASSERT_TRUE(w.grab().save(path));
-  const QImage img(path);
-  ASSERT_FALSE(img.isNull());
-  bool varied = false;
-  for (int y = 0; y < img.height() && !varied; y += 3)
-    for (int x = 0; x < img.width() && !varied; x += 3) varied = img.pixel(x, y) != img.pixel(0, 0);
-  EXPECT_TRUE(varied) << name.toStdString() << " is one colour";
-}
-
 using Cells = std::vector<std::string>;
 
 void stock(Inventory& inv) {
@@ -109,24 +96,24 @@ TEST(Screenshots, InventoryWindows) {
   frmInventory inv(*b.wb);
   inv.show();
   inv.selectRow(2);
-  save(inv, dir, "inventory");
+  saveScreenshot(inv, dir, "inventory");
 
   inv.selectRow(0);
   inv.itemDialog->load(INV_MALT, inv.model.fieldsOf(0), false);
   inv.itemDialog->show();
-  save(*inv.itemDialog, dir, "inventory-edit");
+  saveScreenshot(*inv.itemDialog, dir, "inventory-edit");
   inv.itemDialog->hide();
 
   inv.showCategory(INV_HOPS);
   inv.findDialog->txtFind->setText("cent");
   inv.findDialog->cmdFind_Click();
   inv.findDialog->show();
-  save(*inv.findDialog, dir, "inventory-find");
+  saveScreenshot(*inv.findDialog, dir, "inventory-find");
 
   frmInvCheck check(*b.wb, e);
   check.show();
   check.refresh();
-  save(check, dir, "inventory-check");
+  saveScreenshot(check, dir, "inventory-check");
 
   check.cmdAddShort_Click();
   b.wb->shopping.addItem(INV_SUPPLIES, "Bottle Caps", 144, false, "Each", 0.04);
@@ -134,12 +121,12 @@ TEST(Screenshots, InventoryWindows) {
   frmShoppingLst list(*b.wb);
   list.show();
   list.selectRow(1);
-  save(list, dir, "shopping-list");
+  saveScreenshot(list, dir, "shopping-list");
 
   dlgAddToShopLst add(*b.wb);
   add.addToShoppingList(INV_HOPS, "Cascade", 2, 1, 1.25);
   add.show();
-  save(add, dir, "add-to-shopping");
+  saveScreenshot(add, dir, "add-to-shopping");
 }
 
 }  // namespace

@@ -22,19 +22,6 @@
 namespace zy::test {
 namespace {
 
-void save(QWidget& w, const QString& dir, const QString& name) {
-  QApplication::processEvents();
-  QTest::qWait(50);
-  const QString path = QDir(dir).filePath(name + ".png");
-  ASSERT_TRUE(w.grab().save(path));
-  const QImage img(path);
-  ASSERT_FALSE(img.isNull());
-  bool varied = false;
-  for (int y = 0; y < img.height() && !varied; y += 3)
-    for (int x = 0; x < img.width() && !varied; x += 3) varied = img.pixel(x, y) != img.pixel(0, 0);
-  EXPECT_TRUE(varied) << name.toStdString() << " is one colour";
-}
-
 TEST(Screenshots, StyleWindows) {
   const QString dir = qEnvironmentVariable("ZY_SCREENSHOT_DIR");
   if (dir.isEmpty()) GTEST_SKIP() << "ZY_SCREENSHOT_DIR not set";
@@ -79,13 +66,13 @@ TEST(Screenshots, StyleWindows) {
 
   frmStyleMatch match(*b.wb, e);
   match.show();
-  save(match, dir, "style-match");
+  saveScreenshot(match, dir, "style-match");
 
   dlgFilterBeerStyles filter(*b.wb);
   b.wb->styles.StyleSourceShown = {true, false, true};
   b.wb->styles.StyleFilterText = "ale";
   whenModalOpens([&](QWidget*) {
-    save(filter, dir, "style-filter");
+    saveScreenshot(filter, dir, "style-filter");
     filter.reject();
   });
   filter.exec();
@@ -94,11 +81,11 @@ TEST(Screenshots, StyleWindows) {
   browser.recipeValues = [&] { return e.styleValues(); };
   browser.show();
   browser.showStyle("American Amber Ale");
-  save(browser, dir, "beer-styles");
+  saveScreenshot(browser, dir, "beer-styles");
 
   dlgBeerStyleStats stats(*b.wb, &browser);
   stats.show();
-  save(stats, dir, "style-stats");
+  saveScreenshot(stats, dir, "style-stats");
 }
 
 }  // namespace

@@ -7,18 +7,13 @@
 #include <QTest>
 
 #include "ui/RecipeBench.h"
+#include "ui/UiSupport.h"
 #include "ui/frmComments.h"
 #include "ui/frmRecReader.h"
 #include "ui/frmRecipe.h"
 
 namespace zy::test {
 namespace {
-
-void saveShot(QWidget& w, const QString& dir, const QString& name) {
-  QTest::qWait(50);
-  ASSERT_TRUE(w.grab().save(QDir(dir).filePath(name + ".png")));
-  EXPECT_TRUE(pictureIsNotBlank(QDir(dir).filePath(name + ".png"))) << name.toStdString();
-}
 
 TEST(Screenshots, TextWindows) {
   const QString dir = qEnvironmentVariable("ZY_SCREENSHOT_DIR");
@@ -35,13 +30,13 @@ TEST(Screenshots, TextWindows) {
                                                                    "/tests/data/recipes-text/01-harbor-pale.txt"))
                                      .replace("\r\n", "\n"));
   reader.show();
-  saveShot(reader, dir, "recipe-reader");
+  saveScreenshot(reader, dir, "recipe-reader");
 
   b.prompter.answers = {Answer::Yes};
   r.openComments();
   frmComments& c = b.windows->comments();
   c.mnuSmartInstructions->trigger();
-  saveShot(c, dir, "comments-smart");
+  saveScreenshot(c, dir, "comments-smart");
 }
 
 }  // namespace

@@ -11,23 +11,12 @@
 #include "recipes/RecipeEditor.h"
 #include "recipes/RecipeStore.h"
 #include "support/TestSupport.h"
+#include "ui/UiSupport.h"
 #include "ui/frmHopsUtilization.h"
 #include "ui/frmUnitMashData.h"
 
 namespace zy::test {
 namespace {
-
-void saveShot(QWidget& w, const QString& dir, const QString& name) {
-  QApplication::processEvents();
-  QTest::qWait(50);
-  const QString path = QDir(dir).filePath(name + ".png");
-  ASSERT_TRUE(w.grab().save(path));
-  const QImage img(path);
-  bool varied = false;
-  for (int y = 0; y < img.height() && !varied; y += 5)
-    for (int x = 0; x < img.width() && !varied; x += 5) varied = img.pixel(x, y) != img.pixel(0, 0);
-  EXPECT_TRUE(varied) << name.toStdString() << " is blank";
-}
 
 TEST(Screenshots, ToolWindows) {
   const QString dir = qEnvironmentVariable("ZY_SCREENSHOT_DIR");
@@ -37,7 +26,7 @@ TEST(Screenshots, ToolWindows) {
 
   frmHopsUtilization hops(*b.wb);  // the Rager curve with its gravity adjustment
   hops.show();
-  saveShot(hops, dir, "hops-utilization");
+  saveScreenshot(hops, dir, "hops-utilization");
   hops.close();
 
   RecipeEditor editor(*b.wb);
@@ -52,7 +41,7 @@ TEST(Screenshots, ToolWindows) {
   editor.populateRecipeForm();
   frmUnitMashData mash(*b.wb, editor);
   mash.show();
-  saveShot(mash, dir, "unit-mash-data");
+  saveScreenshot(mash, dir, "unit-mash-data");
   mash.close();
 }
 
