@@ -30,11 +30,9 @@ TEST(ErrorLog, FirstErrorStartsTheLogAndLaterOnesAppend) {
       "",
   };
   EXPECT_EQ(readLines(b.dir.file("ZYError.log")), expected);
-  ASSERT_EQ(b.prompter.shown.size(), 2u);
-  EXPECT_EQ(b.prompter.shown[0].title, "Error");
-  EXPECT_EQ(b.prompter.shown[0].text,
-            "Corrupted Recipe Record in /x/Data/ZYRecipe.dat at Line 7, No More Recipes Loaded");
-  EXPECT_EQ(b.prompter.shown[1].text, "Corrupted Beer Category Record(s) in , Bad Records Ignored");
+  EXPECT_EQ(shownLines(b.prompter),
+            (std::vector<std::string>{"Error: Corrupted Recipe Record in /x/Data/ZYRecipe.dat at Line 7, No More Recipes Loaded",
+                                      "Error: Corrupted Beer Category Record(s) in , Bad Records Ignored"}));
 }
 
 TEST(ErrorLog, MessagesTitlesAndButtonsByNumber) {
@@ -79,10 +77,8 @@ TEST(ErrorLog, MessagesTitlesAndButtonsByNumber) {
       EXPECT_EQ(t.errorNumber, c.number);
     }
     EXPECT_EQ(ended, c.ends) << c.number;
-    ASSERT_EQ(b.prompter.shown.size(), 1u);
-    EXPECT_EQ(b.prompter.shown[0].title, c.title) << c.number;
-    EXPECT_EQ(b.prompter.shown[0].text, c.text) << c.number;
-    EXPECT_EQ(b.prompter.shown[0].buttons, c.buttons) << c.number;
+    EXPECT_EQ(shownLines(b.prompter), std::vector<std::string>{std::string(c.title) + ": " + c.text}) << c.number;
+    EXPECT_EQ(b.prompter.shown.at(0).buttons, c.buttons) << c.number;
     auto lines = readLines(b.dir.file("ZYError.log"));
     EXPECT_EQ(lines.back().empty() ? lines[lines.size() - 2] : lines.back(),
               c.ends ? "Terminating" : "Program Continued Execution");
@@ -93,30 +89,24 @@ TEST(ErrorLog, OutOfMemoryMentionsInitialisationWhileFilling) {
   Bench b;
   b.wb->errors.fillingControls = true;
   EXPECT_THROW(b.wb->errors.reportError(7, 0, "", ""), Terminated);
-  EXPECT_EQ(b.prompter.shown[0].text, "Out of Memory During Initialization");
-  EXPECT_EQ(b.prompter.shown[0].title, "Terminating");
+  EXPECT_EQ(shownLines(b.prompter), std::vector<std::string>{"Terminating: Out of Memory During Initialization"});
   // Line 0 and no function or file: only the error line and the closing line.
   auto lines = readLines(b.dir.file("ZYError.log"));
   ASSERT_EQ(lines.size(), 6u);
-  EXPECT_EQ(lines[3], "");
-  EXPECT_EQ(lines[4], "Error #7()");
-  EXPECT_EQ(lines[5], "Terminating");
+  EXPECT_EQ(std::vector<std::string>(lines.begin() + 3, lines.end()),
+            (std::vector<std::string>{"", "Error #7()", "Terminating"}));
 }
 
 TEST(SharedHelpers, CsvQuoteAndNumericKey) {
-  EXPECT_EQ(csvQuote("  Cascade  "), "Cascade");
-  EXPECT_EQ(csvQuote("Malt, \"Best\""), "\"Malt, 'Best'\"");
-  EXPECT_EQ(csvQuote("a\rb"), "\"a\rb\"");
-  EXPECT_EQ(csvQuote("say \"hi\""), "\"say 'hi'\"");
+  // Trimmed; a comma, quote or line break quotes the field, and inner quotes become apostrophes.
+  const std::pair<const char*, const char*> quoted[] = {
+      {"  Cascade  ", "Cascade"}, {"Malt, \"Best\"", "\"Malt, 'Best'\""}, {"a\rb", "\"a\rb\""}, {"say \"hi\"", "\"say 'hi'\""}};
+  for (const auto& [in, out] : quoted) EXPECT_EQ(csvQuote(in), out) << in;
   ScriptedPrompter p;
-  EXPECT_EQ(numericKey('7', false, &p), '7');
-  EXPECT_EQ(numericKey('.', false, &p), '.');
-  EXPECT_EQ(numericKey(8, false, &p), 8);
-  EXPECT_EQ(p.beeps, 0);
-  EXPECT_EQ(numericKey('-', false, &p), 0);
-  EXPECT_EQ(numericKey('-', true, &p), '-');
-  EXPECT_EQ(numericKey('a', true, &p), 0);
-  EXPECT_EQ(p.beeps, 2);
+  EXPECT_EQ(std::vector<int>({numericKey('7', false, &p), numericKey('.', false, &p), numericKey(8, false, &p), p.beeps}),
+            std::vector<int>({'7', '.', 8, 0}));
+  EXPECT_EQ(std::vector<int>({numericKey('-', false, &p), numericKey('-', true, &p), numericKey('a', true, &p), p.beeps}),
+            std::vector<int>({0, '-', 0, 2}));
 }
 
 TEST(SharedHelpers, StrictNumberReportsATypeMismatch) {

@@ -46,44 +46,26 @@ TEST(NumberFormat, PatternsGiveTheShownTexts) {
 }
 
 TEST(NumberFormat, PlainTextOfDoubles) {
-  EXPECT_EQ(zy::plainText(0.5), "0.5");
-  EXPECT_EQ(zy::plainText(5.0), "5");
-  EXPECT_EQ(zy::plainText(-3), "-3");
-  EXPECT_EQ(zy::plainText(1.032), "1.032");
-  EXPECT_EQ(zy::plainText(0.1 + 0.2), "0.3");  // 15 significant digits
-  EXPECT_EQ(zy::plainText(0.07 * 100), "7");
-  EXPECT_EQ(zy::plainText(0.00001), "1E-05");
-  EXPECT_EQ(zy::plainText(123456789012.5), "123456789012.5");
-  EXPECT_EQ(zy::plainText(0), "0");
-  EXPECT_EQ(zy::plainText(-9999), "-9999");
+  // 15 significant digits: 0.1 + 0.2 and 0.07 * 100 read as the decimals meant.
+  const std::pair<double, const char*> cases[] = {
+      {0.5, "0.5"}, {5.0, "5"},    {-3, "-3"}, {1.032, "1.032"}, {0.1 + 0.2, "0.3"}, {0.07 * 100, "7"},
+      {0.00001, "1E-05"}, {123456789012.5, "123456789012.5"}, {0, "0"}, {-9999, "-9999"}};
+  for (const auto& [value, text] : cases) EXPECT_EQ(zy::plainText(value), text) << text;
 }
 
 TEST(NumberReading, LenientTakesTheLeadingNumber) {
-  EXPECT_DOUBLE_EQ(zy::lenientValue("12.5 lbs"), 12.5);
-  EXPECT_DOUBLE_EQ(zy::lenientValue("  1 2 3"), 123);  // blanks are skipped
-  EXPECT_DOUBLE_EQ(zy::lenientValue("-0.5"), -0.5);
-  EXPECT_DOUBLE_EQ(zy::lenientValue("abc"), 0);
-  EXPECT_DOUBLE_EQ(zy::lenientValue(""), 0);
-  EXPECT_DOUBLE_EQ(zy::lenientValue("$5"), 0);
-  EXPECT_DOUBLE_EQ(zy::lenientValue("1,000"), 1);
-  EXPECT_DOUBLE_EQ(zy::lenientValue("1.5e2x"), 150);
-  EXPECT_DOUBLE_EQ(zy::lenientValue("1e"), 1);
-  EXPECT_DOUBLE_EQ(zy::lenientValue(".25"), 0.25);
-  EXPECT_DOUBLE_EQ(zy::lenientValue("&H1F"), 31);
-  EXPECT_DOUBLE_EQ(zy::lenientValue("1e999"), 0);  // no infinity gets in
+  // Blanks are skipped, "&H" is hexadecimal, and no infinity gets in.
+  const std::pair<const char*, double> cases[] = {
+      {"12.5 lbs", 12.5}, {"  1 2 3", 123}, {"-0.5", -0.5}, {"abc", 0},    {"", 0},      {"$5", 0},
+      {"1,000", 1},       {"1.5e2x", 150},  {"1e", 1},      {".25", 0.25}, {"&H1F", 31}, {"1e999", 0}};
+  for (const auto& [text, value] : cases) EXPECT_DOUBLE_EQ(zy::lenientValue(text), value) << text;
 }
 
 TEST(NumberReading, StrictWantsTheWholeText) {
-  EXPECT_EQ(zy::strictValue(" 80 ").value(), 80);
-  EXPECT_EQ(zy::strictValue("$1.25").value(), 1.25);
-  EXPECT_EQ(zy::strictValue("($1,234.50)").value(), -1234.5);
-  EXPECT_EQ(zy::strictValue("-0.5").value(), -0.5);
-  EXPECT_EQ(zy::strictValue("1E-05").value(), 1e-5);
-  EXPECT_FALSE(zy::strictValue(""));
-  EXPECT_FALSE(zy::strictValue("   "));
-  EXPECT_FALSE(zy::strictValue("12 lbs"));
-  EXPECT_FALSE(zy::strictValue("abc"));
-  EXPECT_FALSE(zy::strictValue("1e"));
+  const std::pair<const char*, double> read[] = {
+      {" 80 ", 80}, {"$1.25", 1.25}, {"($1,234.50)", -1234.5}, {"-0.5", -0.5}, {"1E-05", 1e-5}};
+  for (const auto& [text, value] : read) EXPECT_EQ(zy::strictValue(text).value_or(-9), value) << text;
+  for (const char* text : {"", "   ", "12 lbs", "abc", "1e"}) EXPECT_FALSE(zy::strictValue(text)) << text;
   EXPECT_EQ(zy::strictInt16("2.5").value(), 2);  // halves to the even neighbour
   EXPECT_EQ(zy::strictInt16("3.5").value(), 4);
   EXPECT_FALSE(zy::strictInt16("40000"));

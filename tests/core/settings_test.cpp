@@ -11,21 +11,24 @@
 using namespace zy;
 using namespace zy::test;
 
+namespace {
+// The texts of the named boxes of a properties window, in the order given.
+std::vector<std::string> texts(const PropertiesModel& m, const std::vector<std::string>& names) {
+  std::vector<std::string> v;
+  for (const std::string& n : names) v.push_back(m.text(n));
+  return v;
+}
+}  // namespace
+
+// The order and the first-start values of the keys are pinned in defaults_test; here the forms
+// held in memory.
 TEST(Defaults, AnEmptyStoreGivesTheTableValues) {
   Bench b;
   const Defaults& d = b.wb->defaults;
-  ASSERT_EQ(defaultKeys().size(), 95u);
-  EXPECT_EQ(defaultKeys().front().key, std::string("User Name"));
-  EXPECT_EQ(defaultKeys().back().key, std::string("Extra Text"));
-  EXPECT_EQ(d.threshold, 0.25);
-  EXPECT_EQ(d.mashEff, 80);
-  EXPECT_EQ(d.otherUnits, 5);
-  EXPECT_EQ(d.yeastAttenuation, 0.72);
+  EXPECT_EQ(std::vector<double>({d.mashEff, static_cast<double>(d.otherUnits), d.hopsBoilIncr, d.spargeTemp}),
+            std::vector<double>({80, 5, 5, 170}));
   EXPECT_EQ(d.maltName, std::string("Malt") + std::string(46, ' '));  // text of 50
-  EXPECT_EQ(d.posTitle, "Top    ");
-  EXPECT_EQ(d.userInitials, "   ");
-  EXPECT_EQ(d.hopsBoilIncr, 5);
-  EXPECT_EQ(d.spargeTemp, 170);
+  EXPECT_EQ(d.posTitle + "|" + d.userInitials + "|", "Top    |   |");
 }
 
 TEST(Defaults, TextsAreCutAndThresholdIsAFraction) {
@@ -63,11 +66,10 @@ TEST(Defaults, SaverWritesNinetyTwoKeysInTheirPlainForms) {
   b.wb->defaults.userName = fixedText("Ann Brewer", 60);
   saveDefaults(b.settings, b.wb->defaults);
   EXPECT_EQ(b.settings.writeCount, 92);
-  EXPECT_EQ(b.settings.read("Defaults", "Threshold", "?"), "7");
-  EXPECT_EQ(b.settings.read("Defaults", "User Name", "?"), "Ann Brewer");
-  EXPECT_EQ(b.settings.read("Defaults", "Initial Ferm", "?"), "5");
-  EXPECT_EQ(b.settings.read("Defaults", "Malt Extraction", "?"), "1.032");
-  EXPECT_EQ(b.settings.read("Defaults", "posDate", "?"), "Bottom");
+  std::string held;
+  for (const char* key : {"Threshold", "User Name", "Initial Ferm", "Malt Extraction", "posDate"})
+    held += b.settings.read("Defaults", key, "?") + "|";
+  EXPECT_EQ(held, "7|Ann Brewer|5|1.032|Bottom|");
   for (const char* never : {"Recipe Type", "Supply Units", "Sparge Temp"})
     EXPECT_EQ(b.settings.read("Defaults", never, "absent"), "absent") << never;
 }
@@ -84,11 +86,9 @@ TEST(SettingsFile, KeepsSectionsAndSurvivesReopening) {
     s.write("settings", "mainleft", "600");  // keys are matched without regard to case
   }
   FileSettingsStore s(path);
-  EXPECT_EQ(s.read("Settings", "MainLeft", ""), "600");
-  EXPECT_EQ(s.read("Recipe List", "Sort By", ""), "3");
-  EXPECT_EQ(s.read("Defaults", "User Name", ""), "K\xF6lsch Fan");
-  EXPECT_EQ(s.read("Defaults", "Extra Text", ""), "two\nlines");
-  EXPECT_EQ(s.read("Defaults", "Missing", "fallback"), "fallback");
+  EXPECT_EQ(s.read("Settings", "MainLeft", "") + "|" + s.read("Defaults", "User Name", "") + "|" +
+                s.read("Defaults", "Extra Text", "") + "|" + s.read("Defaults", "Missing", "fallback"),
+            "600|K\xF6lsch Fan|two\nlines|fallback");
   EXPECT_EQ(readFile(path),
             "[Settings]\nMainLeft=600\n\n[Recipe List]\nSort By=3\n\n[Defaults]\nUser Name=K\xF6lsch Fan\n"
             "Extra Text=two\\nlines\n\n");
@@ -137,44 +137,31 @@ TEST(Properties, FilledFromTheDefaultsWithTheirFormats) {
   Bench b;
   PropertiesModel m;
   m.fillFromDefaults(b.wb->defaults);
-  EXPECT_EQ(m.text("txtMashEfficiency"), "80");
-  EXPECT_EQ(m.text("txtInitialBoilVolume"), "3.5");
-  EXPECT_EQ(m.text("txtFermentVolume"), "5.0");
-  EXPECT_EQ(m.text("txtMaltDef(0)"), "Malt");
-  EXPECT_EQ(m.text("txtMaltDef(2)"), "$1.00");
-  EXPECT_EQ(m.text("txtMaltDef(3)"), "1.032");
-  EXPECT_EQ(m.text("txtHopsDef(3)"), "5.5");
-  EXPECT_EQ(m.text("txtYeastDef(3)"), "72.");
-  EXPECT_EQ(m.text("txtMashPerLb"), "0.40");
-  EXPECT_EQ(m.text("txtThreshold"), "25");
+  EXPECT_EQ(texts(m, {"txtMashEfficiency", "txtInitialBoilVolume", "txtFermentVolume", "txtMaltDef(0)", "txtMaltDef(2)",
+                      "txtMaltDef(3)", "txtHopsDef(3)", "txtYeastDef(3)", "txtMashPerLb", "txtThreshold"}),
+            (std::vector<std::string>{"80", "3.5", "5.0", "Malt", "$1.00", "1.032", "5.5", "72.", "0.40", "25"}));
   EXPECT_EQ(m.combo("cboOtherUnits"), 5);
-  EXPECT_EQ(m.comboText("cboOtherUnits"), "Tsp");
-  EXPECT_EQ(m.comboText("cboPosition(3)"), "Bottom");
-  EXPECT_EQ(m.comboText("cboFontSize(0)"), "24");
-  EXPECT_EQ(m.check("chkTitleText"), 1);
-  EXPECT_EQ(m.check("chkUnixNames"), 1);
+  EXPECT_EQ(m.comboText("cboOtherUnits") + "|" + m.comboText("cboPosition(3)") + "|" + m.comboText("cboFontSize(0)"),
+            "Tsp|Bottom|24");
+  EXPECT_EQ(m.check("chkTitleText") + m.check("chkUnixNames"), 2);
   EXPECT_FALSE(m.loading);
 }
 
 TEST(Properties, ReformatAndKeyFilter) {
   PropertiesModel m;
-  m.text("txtMaltDef(2)") = "2.5";
-  m.reformat("txtMaltDef(2)");
-  EXPECT_EQ(m.text("txtMaltDef(2)"), "$2.50");
-  m.text("txtMaltDef(2)") = "$1,234.567";
-  m.reformat("txtMaltDef(2)");
-  EXPECT_EQ(m.text("txtMaltDef(2)"), "$1,234.57");
-  m.text("txtMaltDef(1)") = "3";
-  m.reformat("txtMaltDef(1)");
-  EXPECT_EQ(m.text("txtMaltDef(1)"), "3.0");
-  m.text("txtUserName") = " Ann ";
-  m.reformat("txtUserName");
-  EXPECT_EQ(m.text("txtUserName"), " Ann ");
+  const std::vector<std::vector<std::string>> cases = {{"txtMaltDef(2)", "2.5", "$2.50"},
+                                                       {"txtMaltDef(2)", "$1,234.567", "$1,234.57"},
+                                                       {"txtMaltDef(1)", "3", "3.0"},
+                                                       {"txtUserName", " Ann ", " Ann "}};
+  for (const auto& c : cases) {
+    m.text(c[0]) = c[1];
+    m.reformat(c[0]);
+    EXPECT_EQ(m.text(c[0]), c[2]) << c[1];
+  }
   ScriptedPrompter p;
-  EXPECT_EQ(m.filterKey("txtBoilTime", 'x', &p), 0);
-  EXPECT_EQ(m.filterKey("txtBoilTime", '-', &p), 0);
-  EXPECT_EQ(m.filterKey("txtUserName", 'x', &p), 'x');
-  EXPECT_EQ(p.beeps, 2);
+  EXPECT_EQ(std::vector<int>({m.filterKey("txtBoilTime", 'x', &p), m.filterKey("txtBoilTime", '-', &p),
+                              m.filterKey("txtUserName", 'x', &p), p.beeps}),
+            std::vector<int>({0, 0, 'x', 2}));
 }
 
 TEST(Properties, UnitSystemChangeToMetricResetsWithConvertedValues) {
@@ -183,24 +170,16 @@ TEST(Properties, UnitSystemChangeToMetricResetsWithConvertedValues) {
   m.fillFromDefaults(b.wb->defaults);
   b.prompter.answers = {Answer::Yes};
   m.cboUnitType_Click(METRIC_MEASURES, b.prompter);
-  ASSERT_EQ(b.prompter.shown.size(), 1u);
-  EXPECT_EQ(b.prompter.shown[0].text,
-            "Change the other Measurement Units to match (reset to defaults for the units selected)?");
-  EXPECT_EQ(b.prompter.shown[0].title, "Change Units");
+  EXPECT_EQ(shownLines(b.prompter),
+            std::vector<std::string>{
+                "Change Units: Change the other Measurement Units to match (reset to defaults for the units selected)?"});
   EXPECT_EQ(b.prompter.shown[0].buttons, Buttons::YesNo);
-  EXPECT_EQ(m.combo("cboVolumeUnits"), LITER_CONST);
-  EXPECT_EQ(m.combo("cboMaltUnits"), UNIT_KG);
-  EXPECT_EQ(m.combo("cboHopsUnits"), UNIT_GR);
-  EXPECT_EQ(m.combo("cboSpargeUnits"), LITER_CONST);
-  EXPECT_EQ(m.text("txtInitialBoilVolume"), "14.0");
-  EXPECT_EQ(m.text("txtFermentVolume"), "20.0");
-  EXPECT_EQ(m.text("txtMaltDef(1)"), "0.45");
-  EXPECT_EQ(m.text("txtMaltDef(2)"), "$2.20");
-  EXPECT_EQ(m.text("txtHopsDef(1)"), "28.35");
-  EXPECT_EQ(m.text("txtHopsDef(2)"), "$0.04");
-  EXPECT_EQ(m.text("txtMaltIncr(0)"), "0.09");
-  EXPECT_EQ(m.text("txtHopsIncr(0)"), "5.67");
-  EXPECT_EQ(m.text("txtMaltIncr(1)"), "$0.11");
+  EXPECT_EQ(std::vector<int>({m.combo("cboVolumeUnits"), m.combo("cboMaltUnits"), m.combo("cboHopsUnits"),
+                              m.combo("cboSpargeUnits")}),
+            std::vector<int>({LITER_CONST, UNIT_KG, UNIT_GR, LITER_CONST}));
+  EXPECT_EQ(texts(m, {"txtInitialBoilVolume", "txtFermentVolume", "txtMaltDef(1)", "txtMaltDef(2)", "txtHopsDef(1)",
+                      "txtHopsDef(2)", "txtMaltIncr(0)", "txtHopsIncr(0)", "txtMaltIncr(1)"}),
+            (std::vector<std::string>{"14.0", "20.0", "0.45", "$2.20", "28.35", "$0.04", "0.09", "5.67", "$0.11"}));
 
   // Answering No changes only the unit system.
   b.prompter.answers = {Answer::No};
@@ -210,8 +189,7 @@ TEST(Properties, UnitSystemChangeToMetricResetsWithConvertedValues) {
   b.prompter.answers = {Answer::Yes};
   m.cboUnitType_Click(IMPERIAL_MEASURES, b.prompter);
   EXPECT_EQ(m.combo("cboVolumeUnits"), IMPERIAL_GAL_CONST);
-  EXPECT_EQ(m.text("txtMaltDef(1)"), "1.0");
-  EXPECT_EQ(m.text("txtFermentVolume"), "5.0");
+  EXPECT_EQ(texts(m, {"txtMaltDef(1)", "txtFermentVolume"}), (std::vector<std::string>{"1.0", "5.0"}));
 
   // While the window loads no question is asked.
   m.loading = true;
@@ -227,8 +205,7 @@ TEST(Properties, ResetWaterAndApply) {
   m.text("txtKettleCapacity") = "7.5";
   m.check("chkFullBoil") = 1;
   m.cmdResetWater();
-  EXPECT_EQ(m.text("txtEvaporationRate"), "15");
-  EXPECT_EQ(m.text("txtKettleCapacity"), "5.00");
+  EXPECT_EQ(texts(m, {"txtEvaporationRate", "txtKettleCapacity"}), (std::vector<std::string>{"15", "5.00"}));
   EXPECT_EQ(m.check("chkFullBoil"), 0);
 
   m.text("txtUserName") = "Ann";
@@ -240,14 +217,13 @@ TEST(Properties, ResetWaterAndApply) {
   b.settings.writeCount = 0;
   ASSERT_TRUE(m.cmdApply(b.wb->defaults, b.settings, b.wb->errors));
   EXPECT_EQ(b.settings.writeCount, 92);
-  EXPECT_EQ(b.wb->defaults.yeastAttenuation, 0.75);
-  EXPECT_EQ(b.wb->defaults.threshold, 0.3);
-  EXPECT_EQ(b.wb->defaults.supplyUnits, 7);
-  EXPECT_EQ(b.wb->defaults.recipeType, 0);
-  EXPECT_EQ(b.wb->defaults.hopsCost, 1.1);
-  EXPECT_EQ(trim(b.wb->defaults.userName), "Ann");
-  EXPECT_EQ(b.settings.read("Defaults", "Yeast Attenuation", ""), "0.75");
-  EXPECT_EQ(b.settings.read("Defaults", "Threshold", ""), "30");
+  const Defaults& d = b.wb->defaults;
+  EXPECT_EQ(std::vector<double>({d.yeastAttenuation, d.threshold, static_cast<double>(d.supplyUnits),
+                                 static_cast<double>(d.recipeType), d.hopsCost}),
+            std::vector<double>({0.75, 0.3, 7, 0, 1.1}));
+  EXPECT_EQ(trim(d.userName), "Ann");
+  EXPECT_EQ(b.settings.read("Defaults", "Yeast Attenuation", "") + " " + b.settings.read("Defaults", "Threshold", ""),
+            "0.75 30");
   // The supply unit is applied but never saved: the next start has the old one.
   b.wb->loadDefaults();
   EXPECT_EQ(b.wb->defaults.supplyUnits, 4);
