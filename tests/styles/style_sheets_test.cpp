@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "core/text.h"
-#include "styles/StyleMatch.h"
 #include "styles/StyleSheets.h"
 #include "styles/StyleStore.h"
 #include "support/TestSupport.h"
@@ -47,36 +46,15 @@ TEST(ShippedStyles, SheetsBuildFilesThatLoadWithoutAWord) {
   EXPECT_TRUE(b.prompter.shown.empty());
   const StyleTables& s = b.wb->styles;
 
-  // Names in Windows-1252, the source codes, the category keys.
+  // The category labels of a BJCP and an AOB style (the rows below check every other field).
   const BeerStyleRecord* koelsch = byName(s, "K\xF6lsch");
-  ASSERT_NE(koelsch, nullptr);
-  EXPECT_EQ(koelsch->source, STYLE_SOURCE_BJCP);
-  EXPECT_EQ(trim(koelsch->styleId), "5B");
-  EXPECT_EQ(categoryLabel(s, koelsch->categoryIndex, true), "5 Pale Bitter European Beer");
-  EXPECT_DOUBLE_EQ(koelsch->ogLow, 1.044);
-  EXPECT_DOUBLE_EQ(koelsch->srmLow, 3.5);
-  EXPECT_NE(byName(s, "M\xE4rzen"), nullptr);
   const BeerStyleRecord* esb = byName(s, "Extra Special Bitter");
-  ASSERT_NE(esb, nullptr);
-  EXPECT_EQ(esb->source, STYLE_SOURCE_AOB);
+  ASSERT_TRUE(koelsch && esb);
+  EXPECT_EQ(categoryLabel(s, koelsch->categoryIndex, true), "5 Pale Bitter European Beer");
   EXPECT_EQ(categoryLabel(s, esb->categoryIndex, true), "1 British Origin Ale Styles - Ale Styles");
-  // A quoted name with commas, and a range the guideline leaves open stored as 0 to 0.
-  const BeerStyleRecord* spice = byName(s, "Spice, Herb, or Vegetable Beer");
-  ASSERT_NE(spice, nullptr);
-  EXPECT_EQ(spice->ogLow, 0.0);
-  EXPECT_EQ(spice->alcoholHigh, 0.0);
-  EXPECT_EQ(spice->comments, "");
-  const BeerStyleRecord* stout = byName(s, "Classic Irish-Style Dry Stout");
-  ASSERT_NE(stout, nullptr);
-  EXPECT_EQ(stout->srmLow, 0.0);
-  EXPECT_EQ(stout->srmHigh, 0.0);
-  EXPECT_GT(stout->ogLow, 1.0);
 
-  const StyleStatistics st = computeStyleStatistics(s);
-  EXPECT_EQ(st.aob, 98);
-  EXPECT_EQ(st.bjcp, 139);
-
-  // Every line of both sheets lands in its row of the files, in sheet order.
+  // Every line of both sheets lands in its row of the files, in sheet order: names in
+  // Windows-1252, quoted names with commas, and a range the guideline leaves open as 0 to 0.
   const auto cats = sheetRows(dir + "categories.csv");
   ASSERT_EQ(static_cast<int>(cats.size()), s.BeerCategoryCount);
   for (size_t i = 0; i < cats.size(); ++i) {
