@@ -10,15 +10,8 @@ using namespace zy::test;
 
 namespace {
 // A program folder with one style and recipe 1: a pale ale with mash steps and a salt.
-struct CalcFiles {
-  CliHome home;
-  MemorySettingsStore settings;
-  ScriptedPrompter prompter;
-  FixedClock clock{46000.0};
-  Workbench wb{home.dir.path(), settings, prompter, clock};
-
+struct CalcFiles : CliBench {
   CalcFiles() {
-    wb.errors.setTerminationHook([](int n) { throw Terminated(n); });
     BeerStyleRecord& s = wb.styles.BeerStyles[0];
     s.source = STYLE_SOURCE_BJCP;
     s.styleName = "Dry Stout";
@@ -85,9 +78,7 @@ TEST(CalculatorVerbs, EachVerbPrintsItsLines) {
        "usage: zythara-cli formulate N --og G --color C [--coarse]\n"},
   };
   for (const Case& c : cases) {
-    CliResult r = f.home.run(c.args);
-    EXPECT_EQ(r.out, c.out) << c.args[0];
-    EXPECT_EQ(r.err, c.err) << c.args[0];
-    EXPECT_EQ(r.status, c.err.empty() || c.err[0] == '[' ? 0 : 2) << c.args[0];
+    EXPECT_EQ(f.home.run(c.args).all(), std::to_string(c.err.empty() || c.err[0] == '[' ? 0 : 2) + "|" + c.out + "|" + c.err)
+        << c.args[0];
   }
 }

@@ -10,15 +10,8 @@ using namespace zy::test;
 
 namespace {
 // Writes the data files of the command line's program folder through the stores.
-struct Files {
-  CliHome home;
-  MemorySettingsStore settings;
-  ScriptedPrompter prompter;
-  FixedClock clock{46000.0};
-  Workbench wb{home.dir.path(), settings, prompter, clock};
-
+struct Files : CliBench {
   Files() {
-    wb.errors.setTerminationHook([](int n) { throw Terminated(n); });
     StyleTables& t = wb.styles;
     t.BeerCategories[0].category = "Amber Ales";
     t.BeerCategoryCount = 1;
@@ -40,39 +33,28 @@ struct Files {
 };
 }  // namespace
 
-TEST(EditorVerbs, CalcPrintsWhatTheEditorShows) {
+TEST(EditorVerbs, CalcAndMatchPrintWhatTheEditorShows) {
   Files f;
   f.recipe(1, "Hoppy Amber");
   f.recipe(2, "Martian Red");
-  CliResult r = f.home.run({"calc", "1"});
-  EXPECT_EQ(r.status, 0);
-  EXPECT_EQ(r.out,
-            "Color=15.8\nOG=1.053\nFG=1.013\nAlcohol=5.3\nIBU=30\nCost=$17.74\n"
+  EXPECT_EQ(f.home.run({"calc", "1"}).all(),
+            "0|Color=15.8\nOG=1.053\nFG=1.013\nAlcohol=5.3\nIBU=30\nCost=$17.74\n"
             "TargetOG=OK green\nTargetFG=OK green\nTargetIBU=Low yellow\nTargetColor=OK green\n"
-            "TargetAlcohol=OK green\nStyle=Hoppy Amber\nColorSample=144,73,47\n");
-  EXPECT_EQ(r.err, "");
+            "TargetAlcohol=OK green\nStyle=Hoppy Amber\nColorSample=144,73,47\n|");
 
-  r = f.home.run({"calc", "2"});
+  CliResult r = f.home.run({"calc", "2"});
   EXPECT_EQ(r.status, 0);
   EXPECT_NE(r.out.find("TargetOG=N/A none\n"), std::string::npos);
   EXPECT_NE(r.out.find("Style=<Not A Recognized Beer Style>\n"), std::string::npos);
   EXPECT_EQ(r.err, "[Unknown Beer Style] Beer Style 'Martian Red' is Not Recognized by Zythara\n");
 
-  r = f.home.run({"calc", "3"});  // no such record
-  EXPECT_EQ(r.status, 1);
-  EXPECT_EQ(r.out, "");
-  EXPECT_EQ(r.err, "zythara-cli: calc: there is no recipe 3\n");
+  EXPECT_EQ(f.home.run({"calc", "3"}).all(), "1||zythara-cli: calc: there is no recipe 3\n");  // no such record
   EXPECT_EQ(f.home.run({"calc"}).status, 2);
   EXPECT_EQ(f.home.run({"calc", "x"}).status, 2);
-}
 
-TEST(EditorVerbs, MatchListsEveryStyleWithoutAFullMiss) {
-  Files f;
-  f.recipe(1, "");
-  CliResult r = f.home.run({"match", "1"});
-  EXPECT_EQ(r.status, 0);
-  EXPECT_EQ(r.out,
-            "Beer Style\tO.G.\tF.G.\tBitter\tColor\tAlc %\n"
+  // Every style without a full miss: Big Amber's OG is far off.
+  EXPECT_EQ(f.home.run({"match", "1"}).all(),
+            "0|Beer Style\tO.G.\tF.G.\tBitter\tColor\tAlc %\n"
             "American Amber Ale\tOK\tOK\tOK\tOK\tOK\n"
-            "Hoppy Amber\tOK\tOK\tLow\tOK\tOK\n");
+            "Hoppy Amber\tOK\tOK\tLow\tOK\tOK\n|");
 }

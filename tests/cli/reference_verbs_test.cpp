@@ -41,30 +41,20 @@ struct Home : CliHome {
 
 TEST(ReferenceVerbs, TopicsTopicSearchAndBooks) {
   Home h;
-  CliResult r = h({"topics"});
-  EXPECT_EQ(r.status, 0);
-  EXPECT_EQ(r.out, "Hops\nMalt\n");
-  r = h({"topic", "MALT"});
-  EXPECT_EQ(r.status, 0);
-  EXPECT_EQ(r.out.substr(0, 29), "<H1>Malted Barley</H1>\r\n<P>Gr");
-  r = h({"topic", "hops"});
-  EXPECT_NE(r.out.find("<B>Caf\xC3\xA9</B>"), std::string::npos);  // 8-bit text leaves as UTF-8
-  r = h({"topic", "Water"});
-  EXPECT_EQ(r.status, 1);
-  EXPECT_EQ(r.out, "");
-  r = h({"search", "IBU"});
-  EXPECT_EQ(r.out, "1 Found\nHops\n");
-  r = h({"search", "lager"});
-  EXPECT_EQ(r.out, "None Found\n");
-  r = h({"search", " "});
-  EXPECT_EQ(r.status, 1);
-  EXPECT_EQ(r.err, "[Topic Search] Nothing Entered for Searching\n");
-  r = h({"books"});
-  EXPECT_EQ(r.out, "Basics\n  Start\n  Then\n");
+  const struct { std::vector<std::string> args; std::string all; } runs[] = {
+      {{"topics"}, "0|Hops\nMalt\n|"},
+      {{"topic", "Water"}, "1||zythara-cli: no topic has the index title Water\n"},
+      {{"search", "IBU"}, "0|1 Found\nHops\n|"},
+      {{"search", "lager"}, "0|None Found\n|"},
+      {{"search", " "}, "1||[Topic Search] Nothing Entered for Searching\n"},
+      {{"books"}, "0|Basics\n  Start\n  Then\n|"},
+  };
+  for (const auto& r : runs) EXPECT_EQ(h(r.args).all(), r.all) << r.args.back();
+  EXPECT_EQ(h({"topic", "MALT"}).out.substr(0, 29), "<H1>Malted Barley</H1>\r\n<P>Gr");
+  EXPECT_NE(h({"topic", "hops"}).out.find("<B>Caf\xC3\xA9</B>"), std::string::npos);  // 8-bit text leaves as UTF-8
   std::filesystem::remove(h.dir.file("Reference/Zyth.enc"));
-  r = h({"topics"});
-  EXPECT_EQ(r.status, 3);
-  EXPECT_EQ(r.err, "[Terminating] " + h.dir.path() + "/Reference/Zyth.enc Not Found in frmMain!Form_Load\n");
+  EXPECT_EQ(h({"topics"}).all(),
+            "3||[Terminating] " + h.dir.path() + "/Reference/Zyth.enc Not Found in frmMain!Form_Load\n");
 }
 
 TEST(ReferenceVerbs, BackupRestoreAndCheckUpdate) {
@@ -72,8 +62,7 @@ TEST(ReferenceVerbs, BackupRestoreAndCheckUpdate) {
   const std::string recipes = RecipeRecord{}.encode();  // a sound backup restores
   writeFile(h.dir.file("Data/ZYRecipe.dat"), recipes);
   // Without a folder the proposed one is taken: today's folder below Backups.
-  CliResult r = h({"backup"});
-  EXPECT_EQ(r.status, 0);
+  EXPECT_EQ(h({"backup"}).status, 0);
   std::vector<std::string> dated;
   for (const auto& e : std::filesystem::directory_iterator(h.dir.file("Backups"))) dated.push_back(e.path().string());
   ASSERT_EQ(dated.size(), 1u);
@@ -81,32 +70,25 @@ TEST(ReferenceVerbs, BackupRestoreAndCheckUpdate) {
   EXPECT_EQ(readFile(dated[0] + "/ZYRecipe.dat"), recipes);
   EXPECT_NE(readFile(h.dir.file("settings.ini")).find("Backup Path=" + h.dir.file("Backups")), std::string::npos);
 
-  r = h({"backup", h.dir.file("bk")});
-  EXPECT_EQ(r.status, 0);
-  EXPECT_EQ(r.err, "[Backup Zythara Databases] The Full Database Backup Has Completed Successfully\n");
+  EXPECT_EQ(h({"backup", h.dir.file("bk")}).all(),
+            "0||[Backup Zythara Databases] The Full Database Backup Has Completed Successfully\n");
   EXPECT_EQ(readFile(h.dir.file("bk/ZYRecipe.dat")), recipes);
-  r = h({"--no", "backup", h.dir.file("bk")});
-  EXPECT_EQ(r.err, "[Backup Zythara Databases] Backup files already exist in this folder.  Overwrite them?\n"
-                   "[Backup Zythara Databases] Zythara Database Backup Canceled\n");
+  EXPECT_EQ(h({"--no", "backup", h.dir.file("bk")}).err,
+            "[Backup Zythara Databases] Backup files already exist in this folder.  Overwrite them?\n"
+            "[Backup Zythara Databases] Zythara Database Backup Canceled\n");
 
   writeFile(h.dir.file("Data/ZYRecipe.dat"), "changed");
-  r = h({"restore", h.dir.file("bk")});
-  EXPECT_EQ(r.status, 0);
+  EXPECT_EQ(h({"restore", h.dir.file("bk")}).status, 0);
   EXPECT_EQ(readFile(h.dir.file("Data/ZYRecipe.dat")), recipes);
-  r = h({"restore", h.dir.file("nothing")});
-  EXPECT_EQ(r.status, 1);
-  EXPECT_EQ(r.err, "[Restore All Zythara Databases] No Backup Files in this Folder, Be Sure to Double-Click the "
-                   "Desired Folder\n");
+  EXPECT_EQ(h({"restore", h.dir.file("nothing")}).all(),
+            "1||[Restore All Zythara Databases] No Backup Files in this Folder, Be Sure to Double-Click the "
+            "Desired Folder\n");
   EXPECT_EQ(h({"restore"}).status, 2);
 
   writeFile(h.dir.file("settings.ini"), "[Settings]\nCheck Update=12/31/2099\n");
-  r = h({"check-update", "http://127.0.0.1:1/ZYCurrent.ver"});
-  EXPECT_EQ(r.out, "not due\n");
+  EXPECT_EQ(h({"check-update", "http://127.0.0.1:1/ZYCurrent.ver"}).out, "not due\n");
   writeFile(h.dir.file("settings.ini"), "[Settings]\nCheck Update=1/1/2007\n");
-  r = h({"check-update", "http://127.0.0.1:1/ZYCurrent.ver"});
-  EXPECT_EQ(r.status, 0);
-  EXPECT_EQ(r.out, "unavailable\n");
-  EXPECT_EQ(r.err, "");
+  EXPECT_EQ(h({"check-update", "http://127.0.0.1:1/ZYCurrent.ver"}).all(), "0|unavailable\n|");
   EXPECT_EQ(readFile(h.dir.file("settings.ini")).find("1/1/2007"), std::string::npos);
 }
 

@@ -17,8 +17,7 @@ TEST(SettingsVerb, ReadsWritesAndRefusesKeysThroughTheStore) {
   };
   for (const auto& s : steps) {
     CliResult r = h.run(s.args);
-    EXPECT_EQ(r.status, s.status) << s.args[1];
-    EXPECT_EQ(r.out, s.out) << s.args[1];
+    EXPECT_EQ(std::to_string(r.status) + "|" + r.out, std::to_string(s.status) + "|" + s.out) << s.args[1];
     if (s.err) {
       EXPECT_EQ(r.err, s.err);
     }

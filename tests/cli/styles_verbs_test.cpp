@@ -11,14 +11,11 @@ namespace {
 
 void writeTwoStyles(const test::CliHome& home) {
   auto t = std::make_unique<StyleTables>();
-  t->BeerCategories[0].id = "5";
-  t->BeerCategories[0].category = "Pale Bitter European Beer";
-  t->BeerCategories[0].source = STYLE_SOURCE_BJCP;
+  BeerCategoryRecord& c = t->BeerCategories[0];
+  c.id = "5", c.category = "Pale Bitter European Beer", c.source = STYLE_SOURCE_BJCP;
   t->BeerCategoryCount = 1;
-  t->BeerStyles[0].styleName = "K\xF6lsch";
-  t->BeerStyles[0].styleId = "5B";
-  t->BeerStyles[0].source = STYLE_SOURCE_BJCP;
-  t->BeerStyles[0].categoryIndex = 0;
+  BeerStyleRecord& s = t->BeerStyles[0];
+  s.styleName = "K\xF6lsch", s.styleId = "5B", s.source = STYLE_SOURCE_BJCP, s.categoryIndex = 0;
   t->BeerStyles[1].styleName = "House Ale";
   t->BeerStyles[1].categoryIndex = 4;  // no such category
   t->BeerStyleCount = 2;
@@ -28,16 +25,11 @@ void writeTwoStyles(const test::CliHome& home) {
 TEST(StylesVerbs, StylesAndStatisticsLines) {
   test::CliHome home;
   writeTwoStyles(home);
-  auto r = home.run({"styles"});
-  EXPECT_EQ(r.status, 0);
-  EXPECT_EQ(r.out, "0\tBJCP\t5B\tK\xC3\xB6lsch\t5 Pale Bitter European Beer\n1\tCustom\t\tHouse Ale\t<None>\n");
-  EXPECT_EQ(r.err, "");
-
-  r = home.run({"style-stats"});
-  EXPECT_EQ(r.status, 0);
-  EXPECT_EQ(r.out,
-            "Number of Beer Categories Loaded: 1\nTotal Number of Beer Styles Loaded: 2\n"
-            "Custom Beer Styles Loaded: 1\nAOB Beer Styles Loaded: 0\nBJCP Beer Styles Loaded: 1\n");
+  EXPECT_EQ(home.run({"styles"}).all(),
+            "0|0\tBJCP\t5B\tK\xC3\xB6lsch\t5 Pale Bitter European Beer\n1\tCustom\t\tHouse Ale\t<None>\n|");
+  EXPECT_EQ(home.run({"style-stats"}).all(),
+            "0|Number of Beer Categories Loaded: 1\nTotal Number of Beer Styles Loaded: 2\n"
+            "Custom Beer Styles Loaded: 1\nAOB Beer Styles Loaded: 0\nBJCP Beer Styles Loaded: 1\n|");
 
   EXPECT_EQ(home.run({"styles", "extra"}).status, 2);
 }
