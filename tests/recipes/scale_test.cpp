@@ -47,9 +47,8 @@ TEST(ScaleDialog, DoublingTheVolumeDoublesEveryQuantityAndKeepsTheCharacter) {
   const std::string ibu = t.e.sheet.lblIBU, color = t.e.sheet.lblColor;
   ScaleDialog d;
   d.open(t.e);
-  EXPECT_EQ(d.txtVolume, "5.0");
-  EXPECT_EQ(d.cboVolume, US_GAL_CONST);
-  EXPECT_EQ(d.optUnits, US_MEASURES);
+  EXPECT_EQ(d.txtVolume + " " + std::to_string(d.cboVolume) + " " + std::to_string(d.optUnits),
+            "5.0 " + std::to_string(US_GAL_CONST) + " " + std::to_string(US_MEASURES));
   d.txtVolume = "10";
   ASSERT_TRUE(d.apply(t.e));
   EXPECT_EQ(t.items(), (std::vector<std::string>{"20.0 Lbs $1.00", "4.0 Oz $1.25", "2.0 Tsp $0.35",
@@ -75,8 +74,7 @@ TEST(ScaleDialog, MetricSystemConvertsUnitsByTheTables) {
                                                  "125.0 mL $0.02", "1.06 Packet $4.00"}));
   EXPECT_EQ(t.e.sheet.grid.unitCode(1), UNIT_KG);
   EXPECT_EQ(t.volumes(), (std::vector<std::string>{"20.0", "14.0", "Liters", "Metric Measures", "1.072"}));
-  EXPECT_EQ(t.wb.recipe.rec.volumeUnits, LITER_CONST);
-  EXPECT_EQ(t.wb.recipe.rec.unitType, METRIC_MEASURES);
+  EXPECT_EQ(t.wb.recipe.rec.volumeUnits * 10 + t.wb.recipe.rec.unitType, LITER_CONST * 10 + METRIC_MEASURES);
   EXPECT_EQ(t.e.fermentation.lblTempUnits, "\xB0" "C");
 
   // And on to British: kilograms and grams back to pounds and ounces, mL to imperial ounces.
@@ -98,26 +96,23 @@ TEST(ScaleDialog, NoVolumeMeansNoScaling) {
   d.open(t.e);
   d.txtVolume = "0";
   EXPECT_FALSE(d.apply(t.e));
-  ASSERT_FALSE(t.b.prompter.shown.empty());
-  EXPECT_EQ(shownLines(t.b.prompter).back(), "Scale Recipe Quantities: Please enter a Fermentation Volume greater than zero");
-  EXPECT_EQ(t.cell(1, COL_QTY), "10.0");
   EXPECT_FALSE(t.e.recipeChanged());
-
   t.e.setFermentVolume("N/A");
   d.txtVolume = "10";
   EXPECT_FALSE(d.apply(t.e));
-  EXPECT_EQ(t.b.prompter.shown.back().text, "The recipe has no Fermentation Volume to scale from");
+  EXPECT_EQ(shownLines(t.b.prompter),
+            (std::vector<std::string>{"Scale Recipe Quantities: Please enter a Fermentation Volume greater than zero",
+                                      "Scale Recipe Quantities: The recipe has no Fermentation Volume to scale from"}));
   EXPECT_EQ(t.cell(1, COL_QTY), "10.0");
 }
 
 TEST(ScaleDialog, UnitsOfEachSystem) {
-  EXPECT_EQ(scaledUnit(KIND_MALT, UNIT_LBS, METRIC_MEASURES), UNIT_KG);
-  EXPECT_EQ(scaledUnit(KIND_HOPS, UNIT_GR, US_MEASURES), UNIT_OZ);
-  EXPECT_EQ(scaledUnit(KIND_HOPS, UNIT_KG, IMPERIAL_MEASURES), UNIT_LBS);
-  EXPECT_EQ(scaledUnit(KIND_OTHER, 6, METRIC_MEASURES), 9);     // US Gal -> Liters
-  EXPECT_EQ(scaledUnit(KIND_OTHER, 9, IMPERIAL_MEASURES), 12);  // Liters -> Imp Qts
-  EXPECT_EQ(scaledUnit(KIND_OTHER, 4, METRIC_MEASURES), 4);     // Each
-  EXPECT_EQ(scaledUnit(KIND_YEAST, 2, METRIC_MEASURES), 2);     // Starter
+  // US Gal to Liters, Liters to Imp Qts; Each and a yeast Starter stay.
+  EXPECT_EQ(std::vector<int>({scaledUnit(KIND_MALT, UNIT_LBS, METRIC_MEASURES), scaledUnit(KIND_HOPS, UNIT_GR, US_MEASURES),
+                              scaledUnit(KIND_HOPS, UNIT_KG, IMPERIAL_MEASURES), scaledUnit(KIND_OTHER, 6, METRIC_MEASURES),
+                              scaledUnit(KIND_OTHER, 9, IMPERIAL_MEASURES), scaledUnit(KIND_OTHER, 4, METRIC_MEASURES),
+                              scaledUnit(KIND_YEAST, 2, METRIC_MEASURES)}),
+            std::vector<int>({UNIT_KG, UNIT_OZ, UNIT_LBS, 9, 12, 4, 2}));
   EXPECT_DOUBLE_EQ(unitFactor(KIND_MALT, UNIT_LBS, UNIT_KG), 0.4535924);
   EXPECT_NEAR(unitFactor(KIND_OTHER, 8, 10), 29.5735296875, 1e-9);
   EXPECT_NEAR(unitFactor(KIND_OTHER, 13, 10), 28.41307425, 1e-9);
