@@ -21,16 +21,12 @@ struct FormBench {
 
 TEST(MaltFormulator, OneMaltEndsInTheCloseAsItCanMessage) {
   FormBench b({CalcBench::pale(5)});
-  EXPECT_EQ(b.f.lblQuantity, "Malt Formulation for 5.0 US Gallons");
-  EXPECT_EQ(b.f.txtMashEff, "80");  // the recipe's efficiency
+  EXPECT_EQ(b.f.lblQuantity + " " + b.f.txtMashEff, "Malt Formulation for 5.0 US Gallons 80");  // the recipe's efficiency
   b.f.txtTargetColor = "20.0";
   ASSERT_TRUE(b.f.mnuComputeOGColor());
   // 0.050 * 5 gallons / (0.036 * 0.8) = 8.68 lbs, on the grid of 1/20: 8.7.
   const FormulatorMalt& m = b.f.lvMalts[0];
-  EXPECT_EQ(m.quantity, "8.7");
-  EXPECT_EQ(m.computedPct, "100");
-  EXPECT_EQ(b.f.txtCompOG, "1.050");
-  EXPECT_EQ(b.f.txtCompColor, "4.2");
+  EXPECT_EQ(m.quantity + " " + m.computedPct + " " + b.f.txtCompOG + " " + b.f.txtCompColor, "8.7 100 1.050 4.2");
   EXPECT_EQ(shownLines(b.cb.b.prompter),
             (std::vector<std::string>{"Advanced Malt Formulator: That's as close was the Formulator can get with these malts"}));
   b.f.coarse = true;  // a grid of 1/10
@@ -43,8 +39,7 @@ TEST(MaltFormulator, ColourBelowOneIsRaisedToThreeAndTheRunGoesOn) {
   FormBench b({CalcBench::pale(5)});
   b.f.txtTargetColor = "0.5";
   ASSERT_TRUE(b.f.mnuComputeOGColor());
-  EXPECT_EQ(b.f.txtTargetColor, "3.0");
-  EXPECT_EQ(b.f.lvMalts[0].quantity, "8.7");
+  EXPECT_EQ(b.f.txtTargetColor + " " + b.f.lvMalts[0].quantity, "3.0 8.7");
   // Colour 4.2 is above the target already: no search, no closing message.
   EXPECT_EQ(shownLines(b.cb.b.prompter),
             (std::vector<std::string>{"Error: Color less than 1 will not be computed, adjusted to 3.0"}));
@@ -58,8 +53,7 @@ TEST(MaltFormulator, SearchTradesTheBaseMaltForDarkerOnesUntilTheColourIsNear) {
   const double colour = lenientValue(b.f.txtCompColor);
   EXPECT_GE(colour, 11.5);
   EXPECT_LT(colour, 12.5);
-  EXPECT_EQ(b.f.txtCompOG, "1.050");
-  EXPECT_EQ(b.f.saveImage, "Save-Changed");
+  EXPECT_EQ(b.f.txtCompOG + " " + b.f.saveImage, "1.050 Save-Changed");
 }
 
 TEST(MaltFormulator, ChecksStopInTheirOrderWithTheirMessages) {
@@ -99,17 +93,13 @@ TEST(MaltFormulator, FixedPercentagesExportToTheRecipe) {
   b.f.setTargetPct(1, "10");
   ASSERT_TRUE(b.f.mnuComputeOG());
   // X = 0.9 * 0.0288 + 0.1 * 0.034 = 0.02932; T = 0.25 / X = 8.53: 7.7 and 0.85 lbs.
-  EXPECT_EQ(b.f.lvMalts[0].quantity, "7.7");
-  EXPECT_EQ(b.f.lvMalts[1].quantity, "0.85");
-  EXPECT_EQ(b.f.lvMalts[1].computedPct, "10");
+  EXPECT_EQ(b.f.lvMalts[0].quantity + " " + b.f.lvMalts[1].quantity + " " + b.f.lvMalts[1].computedPct, "7.7 0.85 10");
   b.cb.b.prompter.answers = {Answer::OK};
   ASSERT_TRUE(b.f.mnuFileExport());
   const IngredientTable& g = b.cb.editor.sheet.grid;
   const int first = g.headerRow(KIND_MALT) + 1;
   EXPECT_EQ(g.itemCount(KIND_MALT), 2);
-  EXPECT_EQ(g.cell(first, COL_QTY), "7.7");
-  EXPECT_EQ(g.cell(first + 1, COL_QTY), "0.85");
-  EXPECT_EQ(g.cell(first + 1, COL_COST), "$1.60");
+  EXPECT_EQ(g.cell(first, COL_QTY) + " " + g.cell(first + 1, COL_QTY) + " " + g.cell(first + 1, COL_COST), "7.7 0.85 $1.60");
   EXPECT_TRUE(b.cb.editor.recipeChanged() && !b.f.changed);
   EXPECT_EQ(shownLines(b.cb.b.prompter)[0],
             "Advanced Malt Formulator: No Calculations Performed, There are No Changes to Export");
