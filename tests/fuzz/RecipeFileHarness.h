@@ -18,7 +18,7 @@ inline int recipeFileHarness(const char* file, const uint8_t* data, size_t size)
   r.commentCount = 32767;
   r.recipeName = "Fuzz";
   writeAll(e.data(kRecipeFile), r.encode());
-  writeAll(e.data(file), std::string(reinterpret_cast<const char*>(data), size));
+  writeAll(e.data(file), text(data, size));
   try {
     scanRecipes(wb, [](long, const RecipeRecord&) {});
     wb.recipeSlotPosition = 1;
