@@ -55,21 +55,17 @@ TEST(CliStore, ScanAndDumpFilesOfAnotherWriter) {
                                         itemBytes(1, 1, "Fuggle", 1.25));
   writeFile(h.data("ZYComment.dat"),
             commentBytes(1, std::string(118, 'a') + "\r\n") + commentBytes(0, "old") + commentBytes(1, "end"));
-  CliResult s = h.run({"scan"});
-  EXPECT_EQ(s.status, 0);
-  EXPECT_EQ(s.out, "1\tRobust Porter\n3\tM\xC3\xA4rzen\n");
+  EXPECT_EQ(h.run({"scan"}).all(), "0|1\tRobust Porter\n3\tM\xC3\xA4rzen\n|");
 
   CliResult d = h.run({"dump", "1"});
   EXPECT_EQ(d.status, 0) << d.err;
   auto lines = split(d.out, '\n');
   auto has = [&](const std::string& l) { return std::find(lines.begin(), lines.end(), l) != lines.end(); };
-  EXPECT_EQ(lines[0], "controlStart=200");
-  EXPECT_EQ(lines[5], "recipeName=Robust Porter");
-  EXPECT_EQ(lines[6], "beerStyle=Porter");
-  EXPECT_EQ(lines[8], "fermentVolume=5.25");
-  EXPECT_TRUE(has("mashStepTemp[0]=152"));
-  EXPECT_TRUE(has("mashStepComment[0]=Sacch rest"));
-  for (const char* l : {"mashStepComment[12]=", "agingUnits=-1", "agingTemp=-9999", "originalGravity=1.052",
+  EXPECT_EQ(std::vector<std::string>(lines.begin(), lines.begin() + 9),
+            (std::vector<std::string>{"controlStart=200", "recipeNo=1", "recipeType=1", "unitType=0", "itemCount=2",
+                                      "recipeName=Robust Porter", "beerStyle=Porter", "boilVolume=3.5",
+                                      "fermentVolume=5.25"}));
+  for (const char* l : {"mashStepTemp[0]=152", "mashStepComment[0]=Sacch rest", "mashStepComment[12]=", "agingUnits=-1", "agingTemp=-9999", "originalGravity=1.052",
                         "item[0].itemName=Pale Malt", "item[1].itemName=Fuggle", "item[1].mashFlag=-1",
                         "item[1].rating=1.036"})
     EXPECT_TRUE(has(l)) << l;
@@ -84,59 +80,46 @@ TEST(CliStore, ScanAndDumpFilesOfAnotherWriter) {
 
 TEST(CliStore, NewAndDeleteThenReuse) {
   CliHome h;
-  CliResult a = h.run({"new", "Amber", "Ale"});
-  EXPECT_EQ(a.status, 0);
-  EXPECT_EQ(a.out, "1\n");
+  EXPECT_EQ(h.run({"new", "Amber", "Ale"}).all(), "0|1\n|");
   EXPECT_EQ(h.run({"new", "Stout"}).out, "2\n");
   EXPECT_EQ(h.run({"delete", "1"}).status, 0);
   EXPECT_EQ(h.run({"scan"}).out, "2\tStout\n");
   // A new run searches from the first record again.
   EXPECT_EQ(h.run({"new", "K\xC3\xB6lsch"}).out, "1\n");
   EXPECT_EQ(getText(readFile(h.data("ZYRecipe.dat")), 10, 7), "K\xF6lsch ");
-  CliResult d = h.run({"dump", "1"});
-  EXPECT_NE(d.out.find("dateCreated="), std::string::npos);
-  EXPECT_NE(d.out.find("recipeName=K\xC3\xB6lsch\n"), std::string::npos);
+  EXPECT_NE(h.run({"dump", "1"}).out.find("recipeName=K\xC3\xB6lsch\n"), std::string::npos);
 }
 
-TEST(CliStore, UsageErrorsAndReportedErrors) {
+TEST(CliStore, UsageErrorsAndCorruptedRecordsAreReportedNotHidden) {
   CliHome h;
   for (const auto& args : std::vector<std::vector<std::string>>{{}, {"frobnicate"}, {"dump"}, {"dump", "x"},
                                                                  {"delete", "0"}, {"new"}})
     EXPECT_EQ(h.run(args).status, 2) << (args.empty() ? "" : args[0]);
-  std::string bad = recipeBytes(1, "Broken", 0, 0);
-  bad[0] = 1;
-  writeFile(h.data("ZYRecipe.dat"), recipeBytes(1, "Fine", 0, 0) + bad);
-  CliResult s = h.run({"scan"});
-  EXPECT_EQ(s.status, 1);
-  EXPECT_EQ(s.out, "1\tFine\n");
-  EXPECT_EQ(s.err, "[Error] Corrupted Recipe Record in " + h.data("ZYRecipe.dat") +
-                       " at Line 2, No More Recipes Loaded\n");
-  CliResult d = h.run({"dump", "7"});
-  EXPECT_EQ(d.status, 1);
-  EXPECT_EQ(d.out, "");
+  // Record 2 starts badly; record 3 ends badly.
+  std::string badStart = recipeBytes(2, "Broken", 0, 0), badEnd = recipeBytes(3, "Broken", 0, 0);
+  badStart[0] = 1;
+  badEnd[1545] = 0;
+  const std::string fine = recipeBytes(1, "Fine", 0, 0);
+  auto corrupted = [&](int line) {
+    return "[Error] Corrupted Recipe Record in " + h.data("ZYRecipe.dat") + " at Line " + std::to_string(line) +
+           ", No More Recipes Loaded\n";
+  };
+  writeFile(h.data("ZYRecipe.dat"), fine + badStart + badEnd);
+  EXPECT_EQ(h.run({"scan"}).all(), "1|1\tFine\n|" + corrupted(2));
+  EXPECT_EQ(h.run({"dump", "2"}).all(), "1||" + corrupted(2));
+  writeFile(h.data("ZYRecipe.dat"), fine + recipeBytes(2, "Fine", 0, 0) + badEnd);
+  EXPECT_EQ(h.run({"dump", "3"}).all(), "1||" + corrupted(3));
+  EXPECT_EQ(h.run({"dump", "7"}).all(), "1||zythara-cli: dump: there is no recipe 7\n");
 }
 
 TEST(CliStore, ATerminatingErrorEndsWithStatusThree) {
   CliHome h;
   writeFile(h.dir.file("settings.ini"), "[Defaults]\nBoil Time=long\n");
-  CliResult r = h.run({"version"});
-  EXPECT_EQ(r.status, 3);
-  EXPECT_EQ(r.err, "[Terminate Program] Error #13(Type mismatch) in frmMain!loadDefaults at Line 0\n");
+  EXPECT_EQ(h.run({"version"}).all(), "3||[Terminate Program] Error #13(Type mismatch) in frmMain!loadDefaults at Line 0\n");
   auto log = readLines(h.dir.file("ZYError.log"));
   ASSERT_GE(log.size(), 3u);
-  EXPECT_EQ(log[log.size() - 3], "In Function frmMain!loadDefaults");
-  EXPECT_EQ(log[log.size() - 2], "Affecting File: " + h.dir.file("settings.ini"));  // where to mend it
-  EXPECT_EQ(log.back(), "Terminating");
-}
-
-TEST(CliStore, ACorruptedRecordIsReportedNotHidden) {
-  CliHome h;
-  std::string bad = recipeBytes(2, "Broken", 0, 0);
-  bad[1545] = 0;
-  writeFile(h.data("ZYRecipe.dat"), recipeBytes(1, "Fine", 0, 0) + bad);
-  CliResult d = h.run({"dump", "2"});
-  EXPECT_EQ(d.status, 1);
-  EXPECT_EQ(d.err, "[Error] Corrupted Recipe Record in " + h.data("ZYRecipe.dat") +
-                       " at Line 2, No More Recipes Loaded\n");
-  EXPECT_EQ(h.run({"dump", "3"}).err, "zythara-cli: dump: there is no recipe 3\n");
+  // The file affected tells where to mend it.
+  EXPECT_EQ(std::vector<std::string>(log.end() - 3, log.end()),
+            (std::vector<std::string>{"In Function frmMain!loadDefaults", "Affecting File: " + h.dir.file("settings.ini"),
+                                      "Terminating"}));
 }

@@ -223,17 +223,6 @@ std::string repeat(const std::string& s, int n) {
   return r;
 }
 
-TEST(StyleFiles, FiftyCategoriesAndTwoHundredFiftyStylesLoadSilently) {
-  Bench b;
-  writeFile(catPath(b), repeat(categoryBytes(), 50));
-  writeFile(stylePath(b), repeat(styleBytes() + commentBytes("c"), 250));
-  ASSERT_TRUE(LoadBeerStyles(*b.wb));
-  EXPECT_EQ(b.wb->styles.BeerCategoryCount, 50);
-  EXPECT_EQ(b.wb->styles.BeerStyleCount, 250);
-  EXPECT_EQ(b.wb->styles.BeerStyles[249].styleIndex, 249);
-  EXPECT_TRUE(b.prompter.shown.empty());
-}
-
 // One row past the limit is reported with its own code (too many styles as corrupted ones, under
 // 32015), and then the read into the row behind the table ends the program.
 TEST(StyleFiles, OneRowPastTheLimitIsReportedAndEndsTheProgram) {
