@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cstring>
-
 #include "cli/CliRunner.h"
 #include "core/paths.h"
 #include "core/text.h"
@@ -11,13 +9,7 @@ using namespace zy::test;
 
 namespace {
 // Records as another program following the byte layouts would write them.
-std::string le16(int v) { return std::string{static_cast<char>(v & 0xFF), static_cast<char>((v >> 8) & 0xFF)}; }
-std::string le64(double v) {
-  std::string s(8, '\0');
-  std::memcpy(s.data(), &v, 8);
-  return s;
-}
-std::string pad(const std::string& t, size_t n) { return (t + std::string(n, ' ')).substr(0, n); }
+std::string pad(const std::string& t, size_t n) { return padded(t, n); }
 
 std::string recipeBytes(int no, const std::string& name, int items, int comments) {
   std::string r = le16(200) + le16(no) + le16(1) + le16(0) + le16(items) + pad(name, 60) + pad("Porter", 60) +

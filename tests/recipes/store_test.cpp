@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cstring>
-
 #include "core/numfmt.h"
 #include "core/records.h"
 #include "core/text.h"
@@ -16,18 +14,9 @@ namespace {
 struct Bytes {
   std::string b;
   explicit Bytes(size_t n) : b(n, '\0') {}
-  void i16(size_t off, int v) {
-    b[off] = static_cast<char>(v & 0xFF);
-    b[off + 1] = static_cast<char>((v >> 8) & 0xFF);
-  }
-  void f64(size_t off, double v) {
-    uint64_t u;
-    std::memcpy(&u, &v, 8);
-    for (int i = 0; i < 8; ++i) b[off + i] = static_cast<char>((u >> (8 * i)) & 0xFF);
-  }
-  void text(size_t off, size_t len, const std::string& s) {
-    for (size_t i = 0; i < len; ++i) b[off + i] = i < s.size() ? s[i] : ' ';
-  }
+  void i16(size_t off, int v) { b.replace(off, 2, le16(v)); }
+  void f64(size_t off, double v) { b.replace(off, 8, le64(v)); }
+  void text(size_t off, size_t len, const std::string& s) { b.replace(off, len, padded(s, len)); }
 };
 
 long recordCount(const std::string& path, size_t len) { return static_cast<long>(readFile(path).size() / len); }

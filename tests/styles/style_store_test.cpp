@@ -25,8 +25,7 @@ struct Bytes {
     return *this;
   }
   Bytes& text(const std::string& s, size_t width) {
-    b += s;
-    b.append(width - s.size(), ' ');
+    b += test::padded(s, width);
     return *this;
   }
   Bytes& zeros(size_t n) {
@@ -48,16 +47,7 @@ std::string categoryBytes(int keyLow = 0x07, int codeLow = 0xC8) {
 std::string styleBytes(const std::string& name = "P\xE4le Ale", int codeEndLow = 0x2B) {
   Bytes x;
   x.raw({0xC8, 0x00, 0x01, 0x00}).text("10A", 20).text(name, 60).raw({0x03, 0x00});
-  x.raw({0xF8, 0x53, 0xE3, 0xA5, 0x9B, 0xC4, 0xF0, 0x3F});  // 1.048
-  x.raw({0x4C, 0x37, 0x89, 0x41, 0x60, 0xE5, 0xF0, 0x3F});  // 1.056
-  x.raw({0x29, 0x5C, 0x8F, 0xC2, 0xF5, 0x28, 0xF0, 0x3F});  // 1.010
-  x.raw({0xD3, 0x4D, 0x62, 0x10, 0x58, 0x39, 0xF0, 0x3F});  // 1.014
-  x.raw({0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x39, 0x40});  // 25
-  x.raw({0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x44, 0x40});  // 40
-  x.raw({0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x12, 0x40});  // 4.5
-  x.raw({0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x22, 0x40});  // 9
-  x.raw({0x66, 0x66, 0x66, 0x66, 0x66, 0x66, 0x12, 0x40});  // 4.6
-  x.raw({0xCD, 0xCC, 0xCC, 0xCC, 0xCC, 0xCC, 0x18, 0x40});  // 6.2
+  for (double v : {1.048, 1.056, 1.010, 1.014, 25.0, 40.0, 4.5, 9.0, 4.6, 6.2}) x.b += test::le64(v);
   x.raw({0x0C, 0x00}).zeros(18).raw({codeEndLow, 0x01});
   return x.b;
 }
@@ -217,12 +207,6 @@ TEST(StyleFiles, BadControlCodesAreReportedButTheRowsKept) {
   EXPECT_NE(log.find("Error #32015(Invalid Beer Style Control Code)"), std::string::npos);
 }
 
-std::string repeat(const std::string& s, int n) {
-  std::string r;
-  for (int i = 0; i < n; ++i) r += s;
-  return r;
-}
-
 // One row past the limit is reported with its own code (too many styles as corrupted ones, under
 // 32015), and then the read into the row behind the table ends the program.
 TEST(StyleFiles, OneRowPastTheLimitIsReportedAndEndsTheProgram) {
@@ -242,9 +226,9 @@ TEST(StyleFiles, OneRowPastTheLimitIsReportedAndEndsTheProgram) {
   for (const Case& c : cases) {
     SCOPED_TRACE(c.logged);
     Bench b;
-    writeFile(catPath(b), repeat(categoryBytes(), c.categories));
+    writeFile(catPath(b), test::repeated(categoryBytes(), c.categories));
     // The longest comments a count can give, then a megabyte of junk: never read past the tables.
-    writeFile(stylePath(b), repeat(styleBytes() + commentBytes(longest), c.styles) + std::string(1 << 20, '\x7F'));
+    writeFile(stylePath(b), test::repeated(styleBytes() + commentBytes(longest), c.styles) + std::string(1 << 20, '\x7F'));
     try {
       LoadBeerStyles(*b.wb);
       ADD_FAILURE() << "the load went on";

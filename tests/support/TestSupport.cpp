@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -137,6 +138,24 @@ std::vector<std::string> readLines(const std::string& path) {
   for (auto& l : lines)
     if (!l.empty() && l.back() == '\r') l.pop_back();
   return lines;
+}
+
+std::string le16(int v) { return std::string{static_cast<char>(v & 0xFF), static_cast<char>((v >> 8) & 0xFF)}; }
+
+std::string le64(double v) {
+  uint64_t u;
+  std::memcpy(&u, &v, 8);
+  std::string s(8, '\0');
+  for (int i = 0; i < 8; ++i) s[static_cast<size_t>(i)] = static_cast<char>((u >> (8 * i)) & 0xFF);
+  return s;
+}
+
+std::string padded(const std::string& text, size_t width) { return (text + std::string(width, ' ')).substr(0, width); }
+
+std::string repeated(const std::string& s, int n) {
+  std::string r;
+  for (int i = 0; i < n; ++i) r += s;
+  return r;
 }
 
 void patchRecord(const std::string& path, size_t length, long no, const std::function<void(std::string&)>& edit) {

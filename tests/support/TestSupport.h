@@ -85,6 +85,14 @@ std::vector<std::string> shownLines(const ScriptedPrompter& p);
 std::string readFile(const std::string& path);
 void writeFile(const std::string& path, const std::string& bytes);
 std::vector<std::string> readLines(const std::string& path);
+// Record bytes written by hand, independent of the record code: a little-endian 16-bit number,
+// a little-endian 8-byte double, a text padded with blanks (or cut) to its width.
+std::string le16(int v);
+std::string le64(double v);
+std::string padded(const std::string& text, size_t width);
+// Repeats `s` `n` times.
+std::string repeated(const std::string& s, int n);
+
 // Rewrites the bytes of record `no` (1-based) of a file of `length`-byte records through `edit`.
 void patchRecord(const std::string& path, size_t length, long no, const std::function<void(std::string&)>& edit);
 
