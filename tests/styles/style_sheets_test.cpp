@@ -1,4 +1,5 @@
-// The shipped style sheets turned into the style files, and the sheet reader's refusals.
+// The shipped style sheets and descriptions turned into the style files, and the refusals of
+// the sheet reader and the description merge.
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -12,6 +13,8 @@
 
 namespace zy {
 namespace {
+
+const std::string kSheets = std::string(ZY_SOURCE_DIR) + "/data/styles/";
 
 const BeerStyleRecord* byName(const StyleTables& t, const std::string& name) {
   for (int i = 0; i < t.BeerStyleCount; ++i)
@@ -29,10 +32,9 @@ std::vector<std::vector<std::string>> sheetRows(const std::string& path) {
 }
 
 TEST(ShippedStyles, SheetsBuildFilesThatLoadWithoutAWord) {
-  const std::string dir = std::string(ZY_SOURCE_DIR) + "/data/styles/";
   auto t = std::make_unique<StyleTables>();
   std::string error;
-  ASSERT_TRUE(buildStyleTablesFromSheets(test::readFile(dir + "categories.csv"), test::readFile(dir + "styles.csv"),
+  ASSERT_TRUE(buildStyleTablesFromSheets(test::readFile(kSheets + "categories.csv"), test::readFile(kSheets + "styles.csv"),
                                          *t, error))
       << error;
   EXPECT_EQ(t->BeerCategoryCount, 46);
@@ -55,7 +57,7 @@ TEST(ShippedStyles, SheetsBuildFilesThatLoadWithoutAWord) {
 
   // Every line of both sheets lands in its row of the files, in sheet order: names in
   // Windows-1252, quoted names with commas, and a range the guideline leaves open as 0 to 0.
-  const auto cats = sheetRows(dir + "categories.csv");
+  const auto cats = sheetRows(kSheets + "categories.csv");
   ASSERT_EQ(static_cast<int>(cats.size()), s.BeerCategoryCount);
   for (size_t i = 0; i < cats.size(); ++i) {
     const auto& c = cats[i];
@@ -66,7 +68,7 @@ TEST(ShippedStyles, SheetsBuildFilesThatLoadWithoutAWord) {
     EXPECT_EQ(cp1252ToUtf8(trim(r.category)), c[2]) << i;
     EXPECT_EQ(cp1252ToUtf8(trim(r.subCategory)), c[3]) << i;
   }
-  const auto styles = sheetRows(dir + "styles.csv");
+  const auto styles = sheetRows(kSheets + "styles.csv");
   ASSERT_EQ(static_cast<int>(styles.size()), s.BeerStyleCount);
   for (size_t i = 0; i < styles.size(); ++i) {
     const auto& c = styles[i];
@@ -107,6 +109,52 @@ TEST(ShippedStyles, SheetsThatDoNotFitAreRefusedWithTheirLine) {
   for (int i = 0; i < 251; ++i) many += "BJCP,1,1A,X,1,2,1,1,1,1,1,1,1,1\n";
   EXPECT_FALSE(buildStyleTablesFromSheets(cats, many, *t, error));
   EXPECT_EQ(error, "styles line 252: more than 250 styles");
+}
+
+// The style descriptions shipped in the comment blocks, and the refusals of the merge.
+TEST(StyleDescriptions, EveryShippedStyleHasAShortDescription) {
+  auto t = std::make_unique<StyleTables>();
+  std::string error;
+  ASSERT_TRUE(buildStyleTablesFromSheets(test::readFile(kSheets + "categories.csv"), test::readFile(kSheets + "styles.csv"),
+                                         *t, error))
+      << error;
+  ASSERT_TRUE(mergeStyleDescriptions(test::readFile(kSheets + "descriptions.csv"), *t, error)) << error;
+  for (int i = 0; i < t->BeerStyleCount; ++i) {
+    const BeerStyleRecord& s = t->BeerStyles[static_cast<size_t>(i)];
+    const BeerCategoryRecord& c = t->BeerCategories[static_cast<size_t>(s.categoryIndex)];
+    if (trim(c.category).ends_with("Mead")) continue;  // meads are not described
+    const std::string name = trim(s.styleName);
+    // Two to four sentences: count the full stops that end one.
+    const size_t stops = split(s.comments + " ", '.').size() - 1;
+    EXPECT_TRUE(stops >= 2 && stops <= 4 && s.comments.size() < 1000) << name << ": " << s.comments;
+  }
+}
+
+TEST(StyleDescriptions, RowsThatDoNotFitAreRefusedWithTheirStyle) {
+  const std::string categories = "h\nBJCP,1,Standard American Beer,\n";
+  const std::string styles = "h\nBJCP,1,1A,American Lager,,,,,,,,,,\n";
+  const struct {
+    std::string sheet, error;
+  } cases[] = {
+      {"h\nBJCP,Pale Lagerr,Crisp.\n", "descriptions line 2: no style BJCP Pale Lagerr"},
+      {"h\nAOB,American Lager,Crisp.\n", "descriptions line 2: no style AOB American Lager"},
+      {"h\nBJCP,American Lager,Crisp.\nBJCP,American Lager,Again.\n",
+       "descriptions line 3: a second description for American Lager"},
+      {"h\nBJCP,American Lager, \n", "descriptions line 2: the description of American Lager is empty or too long"},
+      {"h\nBJCP,American Lager\n", "descriptions line 2: expected 3 cells"},
+  };
+  for (const auto& c : cases) {
+    auto t = std::make_unique<StyleTables>();
+    std::string error;
+    ASSERT_TRUE(buildStyleTablesFromSheets(categories, styles, *t, error)) << error;
+    EXPECT_FALSE(mergeStyleDescriptions(c.sheet, *t, error));
+    EXPECT_EQ(error, c.error);
+  }
+  auto t = std::make_unique<StyleTables>();
+  std::string error;
+  ASSERT_TRUE(buildStyleTablesFromSheets(categories, styles, *t, error));
+  ASSERT_TRUE(mergeStyleDescriptions("h\nBJCP,American Lager,\"Pale, crisp, \"\"clean\"\".\"\n", *t, error));
+  EXPECT_EQ(t->BeerStyles[0].comments, "Pale, crisp, \"clean\".");
 }
 
 }  // namespace
