@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cfloat>
+
 #include "core/numfmt.h"
 
 using zy::formatNumber;
@@ -70,4 +72,20 @@ TEST(NumberReading, StrictWantsTheWholeText) {
   EXPECT_EQ(zy::strictInt16("3.5").value(), 4);
   EXPECT_FALSE(zy::strictInt16("40000"));
   EXPECT_FALSE(zy::strictInt16("x"));
+}
+
+TEST(NumberText, PlainTextReadsBackAsAFiniteDouble) {
+  const struct { double v; const char* text; } cases[] = {
+      {DBL_MAX, "1.7976931348623157E+308"},  // 15 digits would round past the largest double
+      {-DBL_MAX, "-1.7976931348623157E+308"},
+      {1.7976931348623e308, "1.7976931348623E+308"},
+      {DBL_MIN, "2.2250738585072E-308"},
+      {4.9406564584124654e-324, "4.94065645841247E-324"},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(zy::plainText(c.v), c.text);
+    auto back = zy::strictValue(zy::plainText(c.v));
+    ASSERT_TRUE(back) << c.text;
+    EXPECT_EQ(zy::plainText(*back), c.text);
+  }
 }

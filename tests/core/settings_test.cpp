@@ -11,6 +11,47 @@
 using namespace zy;
 using namespace zy::test;
 
+TEST(SettingsFile, AStrayByteAtALineStartHidesNoSectionHead) {
+  for (const std::string& stray : {std::string("\r"), std::string(1, '\0'), std::string("\t\r ")}) {
+    TempFolder dir;
+    const std::string path = dir.file("z.ini");
+    writeFile(path, "[Defaults]\n" + stray + "[x=1\nUser Name=Bob\n");
+    FileSettingsStore s(path);
+    s.write("Defaults", "Mash Eff", "70");  // a save rewrites the file
+    FileSettingsStore again(path);
+    // The line reads as the head of a section "x=1", so Bob stands under it, before and after a save.
+    EXPECT_EQ(again.read("x=1", "User Name", "?"), "Bob");
+    EXPECT_EQ(again.read("Defaults", "Mash Eff", "?"), "70");
+    EXPECT_EQ(readFile(path), "[x=1]\nUser Name=Bob\n\n[Defaults]\nMash Eff=70\n\n");
+  }
+}
+
+TEST(SettingsFile, KeysThatWouldReadBackAsSomethingElseAreRefused) {
+  TempFolder dir;
+  const std::string path = dir.file("z.ini");
+  FileSettingsStore s(path);
+  s.write("Defaults", "User Name", "Bob");
+  const struct { const char* section; const char* key; const char* why; } refused[] = {
+      {"Defaults", "[x", "a key beginning with \"[\" would be read back as a section head or a comment."},
+      {"Defaults", ";x", "a key beginning with \";\" would be read back as a section head or a comment."},
+      {"Defaults", "#x", "a key beginning with \"#\" would be read back as a section head or a comment."},
+      {"Defaults", "a=b", "a key must not hold \"=\" or a line break."},
+      {"Defaults", " x", "a key must not be empty nor begin or end with blanks, tabs, line breaks or zero bytes."},
+      {"Defaults", "", "a key must not be empty nor begin or end with blanks, tabs, line breaks or zero bytes."},
+  };
+  for (const auto& r : refused) {
+    const std::string msg = FileSettingsStore::refusal(r.section, r.key);
+    EXPECT_EQ(msg, std::string("The key \"") + r.key + "\" of section \"Defaults\" cannot be kept in the settings "
+                                                       "file: " + r.why);
+    s.write(r.section, r.key, "1");
+  }
+  EXPECT_EQ(FileSettingsStore::refusal("a]b", "k"),
+            "The section name \"a]b\" cannot be kept in the settings file: it must not be empty, begin or end with a "
+            "blank, nor hold \"]\" or a line break.");
+  EXPECT_EQ(FileSettingsStore::refusal("Defaults", "User Name"), "");
+  EXPECT_EQ(readFile(path), "[Defaults]\nUser Name=Bob\n\n");
+}
+
 namespace {
 // The texts of the named boxes of a properties window, in the order given.
 std::vector<std::string> texts(const PropertiesModel& m, const std::vector<std::string>& names) {

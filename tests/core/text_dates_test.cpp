@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-
 #include <cmath>
 
 #include "core/dates.h"
@@ -66,4 +65,14 @@ TEST(Dates, ReadingAcceptsTheUsualForms) {
   EXPECT_NEAR(zy::parseDate("11/22/2026 3:04:05 PM").value(), zy::serialFromCivil(2026, 11, 22, 15, 4, 5), 1e-9);
   for (const char* t : {"", "yesterday", "13/1/2000", "2/30/2001", "Foo-05-1998", "1998", "1/2/3/4"})
     EXPECT_FALSE(zy::parseDate(t)) << t;
+}
+
+TEST(Dates, YearsBelowAThousandKeepFourDigitsAndReadBack) {
+  for (int y : {100, 999, 1000}) {
+    const double d = zy::serialFromCivil(y, 3, 7);
+    const std::string text = zy::formatDateMDY(d);
+    EXPECT_EQ(text, "Mar-07-" + std::string(y < 1000 ? "0" : "") + std::to_string(y));
+    EXPECT_EQ(zy::parseDate(text).value_or(-1), d) << text;
+  }
+  EXPECT_EQ(zy::formatDate(zy::serialFromCivil(999, 1, 2), "yyyy-mm-dd"), "0999-01-02");
 }
