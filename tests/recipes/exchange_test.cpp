@@ -272,7 +272,7 @@ TEST(RecipeExchange, AnErrorEndsTheReaderWithWhatWasRead) {
 
   o = readText(b, "<Recipe> Name=\"X\", BoilTime=sixty\r\n<Other> Type=\"o\"\r\n");
   EXPECT_TRUE(o.endedByError);
-  EXPECT_EQ(wb.recipe.rec.boilTime * 100 + wb.recipe.rec.itemCount, 6000);
+  EXPECT_EQ(std::vector<double>({wb.recipe.rec.boilTime, static_cast<double>(wb.recipe.rec.itemCount)}), std::vector<double>({60, 0}));
 
   // A value beyond 16 bits; a fermentation stage that shares its variable with the mash step.
   for (const char* body : {"<Recipe> Name=\"X\"\r\n<Bitterness> Value=99999\r\n",

@@ -74,7 +74,7 @@ TEST(ScaleDialog, MetricSystemConvertsUnitsByTheTables) {
                                                  "125.0 mL $0.02", "1.06 Packet $4.00"}));
   EXPECT_EQ(t.e.sheet.grid.unitCode(1), UNIT_KG);
   EXPECT_EQ(t.volumes(), (std::vector<std::string>{"20.0", "14.0", "Liters", "Metric Measures", "1.072"}));
-  EXPECT_EQ(t.wb.recipe.rec.volumeUnits * 10 + t.wb.recipe.rec.unitType, LITER_CONST * 10 + METRIC_MEASURES);
+  EXPECT_EQ(std::vector<int>({t.wb.recipe.rec.volumeUnits, t.wb.recipe.rec.unitType}), std::vector<int>({LITER_CONST, METRIC_MEASURES}));
   EXPECT_EQ(t.e.fermentation.lblTempUnits, "\xB0" "C");
 
   // And on to British: kilograms and grams back to pounds and ounces, mL to imperial ounces.

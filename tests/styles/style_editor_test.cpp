@@ -49,12 +49,10 @@ TEST(StyleEditor, ACustomStyleIsFoundAfterAReloadOfTheFiles) {
   ASSERT_EQ(x.ed.acceptStyle(-1, f), 1);
   x.reload();
   const BeerStyleRecord& s = x.t.BeerStyles[1];
-  EXPECT_EQ(trim(s.styleName), "Hoppy House Ale");
-  EXPECT_EQ(trim(s.styleId), "H1");
+  EXPECT_EQ(trim(s.styleName) + "|" + trim(s.styleId) + "|" + s.comments, "Hoppy House Ale|H1|Our own.\r\nDry hopped.");
   EXPECT_EQ(s.source, STYLE_SOURCE_CUSTOM);
-  EXPECT_EQ(s.comments, "Our own.\r\nDry hopped.");
-  EXPECT_EQ((std::array<double, 4>{s.ogLow, s.ogHigh, s.fgLow, s.fgHigh}), (std::array<double, 4>{1.05, 1.06, 0, 0}));
-  EXPECT_DOUBLE_EQ(s.alcoholHigh, 6.2);
+  EXPECT_EQ((std::array<double, 5>{s.ogLow, s.ogHigh, s.fgLow, s.fgHigh, s.alcoholHigh}),
+            (std::array<double, 5>{1.05, 1.06, 0, 0, 6.2}));
   x.ed.sourceFilter = BROWSE_CUSTOM;
   EXPECT_EQ(x.names(), (std::vector<std::string>{"Custom|Mine|Hoppy House Ale"}));
   x.ed.sourceFilter = BROWSE_ALL;
@@ -117,8 +115,7 @@ TEST(StyleEditor, TheTablesNeverGrowPastWhatTheLoaderTakes) {
                 "Beer Styles: There is no room for another Beer Category: Zythara holds at most 50 Beer Categories. "
                 "Delete a category you no longer use first."}));
   x.reload();  // the full files load without a word
-  EXPECT_EQ(x.t.BeerStyleCount, 250);
-  EXPECT_EQ(x.t.BeerCategoryCount, 50);
+  EXPECT_EQ(std::vector<int>({x.t.BeerStyleCount, x.t.BeerCategoryCount}), std::vector<int>({250, 50}));
   EXPECT_EQ(x.b.prompter.shown.size(), 2u);
 }
 
@@ -127,8 +124,7 @@ TEST(StyleEditor, DeletingACategoryKeepsEveryStyleInItsCategory) {
   ASSERT_EQ(x.ed.acceptCategory(-1, {"X9", " Smoked ", "Beech"}), 2);
   ASSERT_EQ(x.ed.acceptStyle(-1, x.form("Smoky", 2)), 1);
   EXPECT_EQ(x.ed.acceptCategory(-1, {"x9", "smoked", "beech"}), -1);
-  EXPECT_FALSE(x.ed.deleteCategory(0));   // a published one
-  EXPECT_FALSE(x.ed.deleteCategory(2));   // still holds Smoky
+  EXPECT_FALSE(x.ed.deleteCategory(0) || x.ed.deleteCategory(2));  // a published one; one still holding Smoky
   x.b.prompter.answers = {Answer::Yes};
   ASSERT_TRUE(x.ed.deleteCategory(1));
   x.reload();

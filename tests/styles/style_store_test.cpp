@@ -99,13 +99,10 @@ TEST(StyleFiles, SaveWritesEveryFieldAtItsOffset) {
   t.BeerStyleCount = 1;
 
   ASSERT_TRUE(saveBeerStyles(*b.wb));
-  EXPECT_EQ(readFile(catPath(b)), categoryBytes());
-  EXPECT_EQ(readFile(stylePath(b)), styleBytes() + commentBytes("Crisp."));
+  EXPECT_EQ(readFile(catPath(b)) + readFile(stylePath(b)), categoryBytes() + styleBytes() + commentBytes("Crisp."));
   // The names were trimmed in the table as well; no temporary file stays behind.
-  EXPECT_EQ(t.BeerCategories[0].category, "Light Lager");
-  EXPECT_EQ(t.BeerStyles[0].styleName, "P\xE4le Ale");
-  EXPECT_FALSE(fileExists(catPath(b) + ".new"));
-  EXPECT_FALSE(fileExists(stylePath(b) + ".new"));
+  EXPECT_EQ(t.BeerCategories[0].category + "|" + t.BeerStyles[0].styleName, "Light Lager|P\xE4le Ale");
+  EXPECT_FALSE(fileExists(catPath(b) + ".new") || fileExists(stylePath(b) + ".new"));
   EXPECT_TRUE(b.prompter.shown.empty());
 }
 
@@ -151,8 +148,7 @@ TEST(StyleFiles, LoadOverwritesKeysAndReadsComments) {
             std::vector<int>({0, 1, 0, 2, 3, STYLE_SOURCE_AOB}));
   const BeerStyleRecord& s = t.BeerStyles[0];
   EXPECT_EQ(s.styleName, "P\xE4le Ale" + std::string(52, ' '));
-  EXPECT_DOUBLE_EQ(s.ogLow, 1.048);
-  EXPECT_DOUBLE_EQ(s.alcoholHigh, 6.2);
+  EXPECT_EQ(std::vector<double>({s.ogLow, s.alcoholHigh}), std::vector<double>({1.048, 6.2}));
   EXPECT_EQ(s.comments + "|" + t.BeerStyles[1].comments + "|" + t.BeerStyles[2].comments, "Crisp and\r\ndry.||");
   EXPECT_EQ(trim(t.BeerStyles[3].styleName), "");  // the torn piece is no row
 
@@ -174,8 +170,7 @@ TEST(StyleFiles, LoadThenSaveGivesBackTheSameBytes) {
   writeFile(stylePath(b), styles);
   ASSERT_TRUE(LoadBeerStyles(*b.wb));
   ASSERT_TRUE(saveBeerStyles(*b.wb));
-  EXPECT_EQ(readFile(catPath(b)), cat);
-  EXPECT_EQ(readFile(stylePath(b)), styles);
+  EXPECT_EQ(readFile(catPath(b)) + readFile(stylePath(b)), cat + styles);
 }
 
 TEST(StyleFiles, MissingFilesAreCreatedEmpty) {
@@ -202,9 +197,9 @@ TEST(StyleFiles, BadControlCodesAreReportedButTheRowsKept) {
             (std::vector<std::string>{"Error: Corrupted Beer Category Record(s) in " + catPath(b) + ", Bad Records Ignored",
                                       "Error: Corrupted Beer Style Record(s) in " + stylePath(b) + ", Bad Records Ignored"}));
   const std::string log = readFile(b.wb->folder.file(kErrorLog));
-  EXPECT_NE(log.find("Error #32013(Invalid Beer Category Control Code)"), std::string::npos);
-  EXPECT_NE(log.find("In Function LoadBeerStyles"), std::string::npos);
-  EXPECT_NE(log.find("Error #32015(Invalid Beer Style Control Code)"), std::string::npos);
+  for (const char* line : {"Error #32013(Invalid Beer Category Control Code)", "In Function LoadBeerStyles",
+                           "Error #32015(Invalid Beer Style Control Code)"})
+    EXPECT_NE(log.find(line), std::string::npos) << line;
 }
 
 // One row past the limit is reported with its own code (too many styles as corrupted ones, under
@@ -274,8 +269,7 @@ TEST(StyleFiles, AFailedSaveLeavesTheOldFilesInPlace) {
   // The new style file cannot be created (its name is taken by a folder).
   std::filesystem::create_directory(stylePath(b) + ".new");
   EXPECT_THROW(saveBeerStyles(*b.wb), Terminated);
-  EXPECT_EQ(readFile(catPath(b)), categoryBytes());
-  EXPECT_EQ(readFile(stylePath(b)), styleBytes() + commentBytes("old"));
+  EXPECT_EQ(readFile(catPath(b)) + readFile(stylePath(b)), categoryBytes() + styleBytes() + commentBytes("old"));
   EXPECT_FALSE(fileExists(catPath(b) + ".new"));
   ASSERT_FALSE(b.prompter.shown.empty());
   EXPECT_NE(b.prompter.shown.back().text.find("saveBeerStyles"), std::string::npos);
