@@ -37,21 +37,8 @@ std::optional<std::string> ScriptedPrompter::input(const std::string& prompt, co
   return nextText(initial);
 }
 
-std::optional<std::string> ScriptedPrompter::openFile(const std::string& title, const std::string&,
-                                                      const std::string&) {
-  shown.push_back({"", title, Icon::None, Buttons::OKCancel});
-  if (texts.empty()) return std::nullopt;
-  return nextText("");
-}
-
-std::optional<std::string> ScriptedPrompter::saveFile(const std::string& title, const std::string&,
-                                                      const std::string&) {
-  shown.push_back({"", title, Icon::None, Buttons::OKCancel});
-  if (texts.empty()) return std::nullopt;
-  return nextText("");
-}
-
-std::optional<std::string> ScriptedPrompter::chooseFolder(const std::string& title, const std::string&) {
+// A file or folder dialog: noted by its title; with no text left, a Cancel.
+std::optional<std::string> ScriptedPrompter::dialog(const std::string& title) {
   shown.push_back({"", title, Icon::None, Buttons::OKCancel});
   if (texts.empty()) return std::nullopt;
   return nextText("");

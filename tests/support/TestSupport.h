@@ -25,11 +25,13 @@ class ScriptedPrompter : public Prompter {
                  Answer defaultAnswer) override;
   std::optional<std::string> input(const std::string& prompt, const std::string& title,
                                    const std::string& initial) override;
-  std::optional<std::string> openFile(const std::string& title, const std::string& filter,
-                                      const std::string& initialPath) override;
-  std::optional<std::string> saveFile(const std::string& title, const std::string& filter,
-                                      const std::string& initialPath) override;
-  std::optional<std::string> chooseFolder(const std::string& title, const std::string& initialPath) override;
+  std::optional<std::string> openFile(const std::string& title, const std::string&, const std::string&) override {
+    return dialog(title);
+  }
+  std::optional<std::string> saveFile(const std::string& title, const std::string&, const std::string&) override {
+    return dialog(title);
+  }
+  std::optional<std::string> chooseFolder(const std::string& title, const std::string&) override { return dialog(title); }
   void beep() override { ++beeps; }
 
   // Answers given in turn to questions (message boxes with more than an OK button); when none
@@ -42,6 +44,7 @@ class ScriptedPrompter : public Prompter {
 
  private:
   std::optional<std::string> nextText(const std::string& fallback);
+  std::optional<std::string> dialog(const std::string& title);
 };
 
 // A fresh folder below the system's temporary folder, removed with the object.
