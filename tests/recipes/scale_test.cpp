@@ -4,14 +4,15 @@
 #include "recipes/RecipeEditor.h"
 #include "recipes/RecipeStore.h"
 #include "recipes/ScaleDialog.h"
+#include "recipes/UnitMashData.h"
 #include "support/TestSupport.h"
 
 using namespace zy;
 using namespace zy::test;
 
 namespace {
-// A new recipe of 5 US gallons (boil 3.5): 10 lbs of pale malt, 2 oz of hops, a teaspoon of
-// moss, 4 US fluid ounces of a liquid, one packet of yeast.
+// A new recipe of 5 US gallons (boil 3.5): 10 lbs of pale malt, 2 oz of hops boiled 60 minutes,
+// a teaspoon of moss, 4 US fluid ounces of a liquid, one packet of yeast.
 struct ScaleBench {
   Bench b;
   Workbench& wb = *b.wb;
@@ -119,4 +120,56 @@ TEST(ScaleDialog, UnitsOfEachSystem) {
   EXPECT_DOUBLE_EQ(unitFactor(KIND_OTHER, 6, 9), 3.7854118);
   EXPECT_DOUBLE_EQ(unitFactor(KIND_YEAST, 0, 3), 1.0);
   EXPECT_EQ(std::string(ScaleDialog::unitCaptions()[2]), "British (Imperial Gallons, Pounds)");
+}
+
+// The recipe's units and mash data: what the window shows for each stored mash type and
+// efficiency, and the boil-time floor of OK (the window test drives the rest of OK).
+TEST(UnitMashData, EfficiencyBoxFollowsTheMashType) {
+  Defaults d;
+  d.mashEff = 72;
+  struct Case {
+    int mashType;
+    double efficiency;
+    const char* shown;
+    bool enabled;
+  };
+  for (const Case& c : {Case{0, 75, "N/A", false}, Case{2, 75, "75", true}, Case{3, 25, "25", true},
+                        Case{1, 24.9, "72", true}, Case{4, 99.6, "100", true}, Case{5, 100, "72", true},
+                        Case{9, 75, "N/A", false}}) {
+    RecipeRecord r;
+    r.mashType = c.mashType;
+    r.mashEfficiency = c.efficiency;
+    r.boilTime = 59.5;
+    UnitMashData m;
+    m.load(r, d);
+    EXPECT_EQ(m.txtMashEfficiency, c.shown) << c.mashType << " " << c.efficiency;
+    EXPECT_EQ(m.mashEffEnabled, c.enabled);
+    EXPECT_EQ(m.txtBoilTime, "60");
+  }
+}
+
+TEST(UnitMashData, BoilTimeNeverBelowTheLongestHopsBoil) {
+  ScaleBench t;
+  t.e.AddIngredient(KIND_HOPS, "Centennial", 0.5, UNIT_OZ, 1.50, 10.0, 15, 0);  // added last, boiled shorter
+  EXPECT_EQ(UnitMashData::longestHopsBoil(t.e.sheet.grid), 60);
+  struct Case {
+    const char* typed;
+    double stored;
+    bool warned;
+  };
+  for (const Case& c : {Case{"45", 60, true}, Case{"60", 60, false}, Case{"75", 75, false}, Case{"", 60, true}}) {
+    t.b.prompter.shown.clear();
+    UnitMashData m;
+    m.load(t.wb.recipe.rec, t.wb.defaults);
+    m.txtBoilTime = c.typed;
+    ASSERT_TRUE(m.cmdOK(t.wb.recipe.rec, t.e, t.wb.defaults, t.b.prompter));
+    EXPECT_EQ(t.wb.recipe.rec.boilTime, c.stored) << c.typed;
+    EXPECT_EQ(t.e.txtBoilTime, m.txtBoilTime);
+    EXPECT_EQ(shownLines(t.b.prompter),
+              c.warned ? std::vector<std::string>{"Warning: You cannot set the Boil Time to less than 60\n"
+                                                  "        the largest hops boil time\n"
+                                                  "             Boil Time Reset"}
+                       : std::vector<std::string>{})
+        << c.typed;
+  }
 }
