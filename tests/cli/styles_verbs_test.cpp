@@ -1,4 +1,4 @@
-// The styles, style-stats and hops verbs over hand-made style files and settings.
+// The styles, style-stats, hops and settings verbs over hand-made style files and settings.
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -62,6 +62,27 @@ TEST(StylesVerbs, HopsShowsTheCurveInUse) {
       "Title: Tinseth\nGravity Adjustment: 2\nFactor 1: 1.000\nFactor 2: 0.000125\nFactor 3: 0.030\n5\t5.0\n";
   EXPECT_EQ(r.out.substr(0, tinseth.size()), tinseth);
   EXPECT_NE(r.out.find("\n90\t38.7\n"), std::string::npos);
+}
+
+TEST(SettingsVerb, ReadsWritesAndRefusesKeysThroughTheStore) {
+  test::CliHome h;
+  const struct { std::vector<std::string> args; int status; const char* out; const char* err; } steps[] = {
+      {{"settings", "set", "Defaults", "Mash Eff", "72"}, 0, "", ""},
+      {{"settings", "get", "defaults", "MASH EFF"}, 0, "72\n", ""},
+      {{"settings", "get", "Defaults", "Boil Time"}, 1, "", "settings: no key \"Boil Time\" in section \"Defaults\"\n"},
+      {{"settings", "set", "Defaults", "[x", "1"}, 1, "",
+       "[Zythara 2] The key \"[x\" of section \"Defaults\" cannot be kept in the settings file: a key beginning with "
+       "\"[\" would be read back as a section head or a comment.\n"},
+      {{"settings", "get", "Defaults"}, 2, "", nullptr},
+  };
+  for (const auto& s : steps) {
+    test::CliResult r = h.run(s.args);
+    EXPECT_EQ(std::to_string(r.status) + "|" + r.out, std::to_string(s.status) + "|" + s.out) << s.args[1];
+    if (s.err) {
+      EXPECT_EQ(r.err, s.err);
+    }
+  }
+  EXPECT_EQ(test::readFile(h.dir.file("settings.ini")), "[Defaults]\nMash Eff=72\n\n");
 }
 
 }  // namespace
