@@ -24,14 +24,9 @@ struct CalcFiles : CliBench {
 
     newRecipeRecord(wb);
     CurrentRecipe& c = wb.recipe;
-    c.rec.recipeNo = 1;
-    c.rec.recipeName = "Pale";
-    c.rec.volumeUnits = US_GAL_CONST;
-    c.rec.fermentVolume = 5;
-    c.rec.boilVolume = 6;
-    c.rec.boilTime = 60;
-    c.rec.mashType = 3;
-    c.rec.mashStepTime = {30, 60, 10};
+    RecipeRecord& r = c.rec;
+    r.recipeNo = 1, r.recipeName = "Pale", r.volumeUnits = US_GAL_CONST, r.fermentVolume = 5, r.boilVolume = 6;
+    r.boilTime = 60, r.mashType = 3, r.mashStepTime = {30, 60, 10};
     c.rec.mashStepTemp = {122, 152, 170};
     c.rec.mashStepComment = {"Protein Rest", "Saccharification Rest", "Mash Out"};
     c.items[0] = makeItem(KIND_MALT, "Pale Malt", 8, UNIT_LBS, 1.10, 1.036, 3, -1);

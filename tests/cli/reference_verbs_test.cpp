@@ -5,34 +5,17 @@
 
 #include "CliRunner.h"
 #include "recipes/RecipeRecords.h"
-#include "reference/ReferenceBuild.h"
+#include "reference/RefFixture.h"
 
 namespace zy::test {
 namespace {
 
-TopicSource t(const std::string& title, const std::string& index, const std::string& body, int images = 0) {
-  TopicSource s;
-  s.sourceFile = index + ".txt";
-  s.title = title;
-  s.indexTitle = index;
-  s.body = body;
-  for (int i = 0; i < images; ++i) {
-    std::string name = "p";
-    name += std::to_string(i);
-    name += ".png";
-    s.images.push_back({name, "Caf\xE9"});
-  }
-  return s;
-}
-
 struct Home : CliHome {
   Home() {
-    BookSource b;
-    b.sourceFile = "b.txt";
-    b.name = "Basics";
-    b.description = "<P>d</P>";
-    b.chapters = {{"Start", "Malt"}, {"Then", "Hops"}};
-    BuildReport r = buildReference({t("Malted Barley", "Malt", "<P>Grain.</P>"), t("Hops", "Hops", "<P>Bitter ibu.</P>", 1)},
+    BookSource b = sampleBooks()[0];
+    b.name = "Basics", b.chapters = {{"Start", "Malt"}, {"Then", "Hops"}};
+    BuildReport r = buildReference({topic("Malted Barley", "Malt", "<P>Grain.</P>"),
+                                    topic("Hops", "Hops", "<P>Bitter ibu.</P>", {{"p0.png", "Caf\xE9"}})},
                                    {b}, dir.file("Reference"));
     EXPECT_TRUE(r.ok());
   }

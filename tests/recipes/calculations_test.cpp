@@ -16,10 +16,8 @@ struct Calc {
   RecipeEditor e{wb};
   RecipeSheet& s = e.sheet;
   Calc(const std::string& ferment = "1", const std::string& boil = "1") {
-    wb.recipe.rec.volumeUnits = US_GAL_CONST;
-    wb.recipe.rec.mashEfficiency = 80;
-    s.txtFermentVolume = ferment;
-    s.txtInitalBoilVolume = boil;
+    wb.recipe.rec.volumeUnits = US_GAL_CONST, wb.recipe.rec.mashEfficiency = 80;
+    s.txtFermentVolume = ferment, s.txtInitalBoilVolume = boil;
   }
   void malt(double lbs, double extract, double color, bool mashed = false, int unit = UNIT_LBS, double cost = 0) {
     e.AddIngredient(KIND_MALT, "Malt", lbs, unit, cost, extract, color, mashed ? -1 : 0);

@@ -86,10 +86,8 @@ TEST(RecipeExchange, WriterProducesTheExactText) {
   // A recipe without mash writes the mash type only; no aging line without a count.
   Bench c;
   newRecipeRecord(*c.wb);
-  c.wb->recipe.rec.recipeName = "Simple";
-  c.wb->recipe.rec.dateCreated = "";
-  c.wb->recipe.rec.mashStepTime[0] = 30;
-  c.wb->recipe.rec.agingTemp = -9999.0;
+  RecipeRecord& s = c.wb->recipe.rec;
+  s.recipeName = "Simple", s.dateCreated = "", s.mashStepTime[0] = 30, s.agingTemp = -9999.0;
   EXPECT_EQ(exportRecipeText(*c.wb), "<Recipe_Format_1.0>\r\n"
                                      "<Recipe> Type=\"Ale\", Name=\"Simple\", BoilTime=60, Date=\"\"\r\n"
                                      "<Volume> Initial=3.5, Final=5.0, Units=\"US Gallons\"\r\n"
@@ -120,9 +118,7 @@ TEST(RecipeExchange, RoundTripKeepsItsDocumentedDifferences) {
   RecipeRecord& w = want.rec;
   w.recipeName = "Mike's M\xE4rzen (Duplicate)";
   // A metric recipe comes back as US measures in US Gallons, numbers unchanged.
-  w.unitType = US_MEASURES;
-  w.volumeUnits = US_GAL_CONST;
-  w.boilVolume = 20.0;
+  w.unitType = US_MEASURES, w.volumeUnits = US_GAL_CONST, w.boilVolume = 20.0;
   // Nothing is recomputed: the written roundings stand.
   w.color = 12, w.originalGravity = 1.056, w.alcohol = 5.4;
   // Efficiency and rates of 0 were written as 100 and 0.40; the step without time is dropped.

@@ -310,10 +310,8 @@ TEST(RecipeStoreFaults, AnInterruptedSaveOfANewRecipeListsNothing) {
     Workbench& wb = *b.wb;
     std::filesystem::create_directory(b.dir.file(std::string("Data/") + blocked));
     newRecipeRecord(wb);
-    wb.recipe.rec.recipeNo = 1;
-    wb.recipe.rec.itemCount = 1;
+    wb.recipe.rec.recipeNo = 1, wb.recipe.rec.itemCount = 1, wb.recipe.comment = "Mash low";
     wb.recipe.items[0] = makeItem(KIND_MALT, "Pale", 8);
-    wb.recipe.comment = "Mash low";
     EXPECT_THROW(saveCurrentRecipe(wb), Terminated) << blocked;
     int listed = 0;
     scanRecipes(wb, [&](long, const RecipeRecord&) { ++listed; });

@@ -196,10 +196,8 @@ TEST(StyleStatistics, CountsBySourceWithIllegalSourcesInTheTotalOnly) {
 TEST(StyleLookups, CategoryLabelsAndKeySearches) {
   StyleTables t;
   auto cat = [&](int row, const char* id, const char* name, const char* sub, int key) {
-    t.BeerCategories[row].id = id;
-    t.BeerCategories[row].category = name;
-    t.BeerCategories[row].subCategory = sub;
-    t.BeerCategories[row].categoryIndex = key;
+    BeerCategoryRecord& c = t.BeerCategories[row];
+    c.id = id, c.category = name, c.subCategory = sub, c.categoryIndex = key;
   };
   cat(0, " 1A ", " Light Lager ", " Lite ", 5);
   cat(1, "", "Stout", "", 7);

@@ -61,20 +61,14 @@ std::string commentBytes(const std::string& text) {
 
 BeerCategoryRecord lightLager() {
   BeerCategoryRecord c;
-  c.source = STYLE_SOURCE_BJCP;
-  c.id = "1A";
-  c.category = "   Light Lager   ";
-  c.subCategory = "Lite";
+  c.source = STYLE_SOURCE_BJCP, c.id = "1A", c.category = "   Light Lager   ", c.subCategory = "Lite";
   c.categoryIndex = 7;
   return c;
 }
 
 BeerStyleRecord paleAle() {
   BeerStyleRecord s;
-  s.source = STYLE_SOURCE_AOB;
-  s.styleId = "10A";
-  s.styleName = "  P\xE4le Ale ";
-  s.categoryIndex = 3;
+  s.source = STYLE_SOURCE_AOB, s.styleId = "10A", s.styleName = "  P\xE4le Ale ", s.categoryIndex = 3;
   s.ogLow = 1.048, s.ogHigh = 1.056, s.fgLow = 1.010, s.fgHigh = 1.014;
   s.ibuLow = 25, s.ibuHigh = 40, s.srmLow = 4.5, s.srmHigh = 9;
   s.alcoholLow = 4.6, s.alcoholHigh = 6.2;
