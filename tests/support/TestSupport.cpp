@@ -67,14 +67,8 @@ Bench::Bench() : clock(serialFromCivil(2026, 11, 22, 10, 30, 0)) {
 RecipeItemRecord makeItem(int kind, const std::string& name, double qty, int units, double cost, double rating,
                           double detail, int mash) {
   RecipeItemRecord it;
-  it.itemKind = kind;
-  it.itemName = name;
-  it.quantity = qty;
-  it.quantityUnits = units;
-  it.unitCost = cost;
-  it.rating = rating;
-  it.detail = detail;
-  it.mashFlag = mash;
+  it.itemKind = kind, it.itemName = name, it.quantity = qty, it.quantityUnits = units, it.unitCost = cost;
+  it.rating = rating, it.detail = detail, it.mashFlag = mash;
   return it;
 }
 
@@ -82,13 +76,9 @@ bool storeAmber(Workbench& wb, int no, const std::string& name, const std::strin
                 const std::function<void(CurrentRecipe&)>& extra) {
   newRecipeRecord(wb);
   CurrentRecipe& cur = wb.recipe;
-  cur.rec.recipeNo = no;
-  cur.rec.recipeName = name;
-  cur.rec.beerStyle = style;
-  cur.rec.volumeUnits = US_GAL_CONST;
-  cur.rec.fermentVolume = cur.rec.boilVolume = 5;
-  cur.rec.mashType = 2;
-  cur.rec.mashEfficiency = 75;
+  RecipeRecord& r = cur.rec;
+  r.recipeNo = no, r.recipeName = name, r.beerStyle = style, r.volumeUnits = US_GAL_CONST;
+  r.fermentVolume = r.boilVolume = 5, r.mashType = 2, r.mashEfficiency = 75;
   cur.items[0] = makeItem(KIND_MALT, "Pale Malt", 8, UNIT_LBS, 1.10, 1.036, 3, -1);
   cur.items[1] = makeItem(KIND_MALT, "Crystal 60", 1, UNIT_LBS, 1.60, 1.034, 60, 0);
   cur.items[2] = makeItem(KIND_HOPS, "Cascade", 1, UNIT_OZ, 1.25, 5.5, 60);
