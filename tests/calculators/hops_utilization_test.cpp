@@ -115,9 +115,7 @@ TEST(HopsEditor, LoadShowsTheStoredCurveAndFactors) {
   HopsUtilizationEditor e = openedOnDefaults();
   EXPECT_EQ(curveText(e), "5.0 6.0 8.0 10.1 12.1 15.3 18.8 22.8 26.9 28.1 30.0 30.0 30.0 30.0 30.0 30.0 30.0 30.0");
   EXPECT_EQ(HopsUtilizationEditor::minutesText(18), "90");
-  EXPECT_EQ(shown(e), "Rager|1|1.050 0.200 0.020|1.070 1.090");
-  EXPECT_EQ(e.lblGravity[0], "(for gravities >= 1.050)");
-  EXPECT_TRUE(e.graphError.empty());
+  EXPECT_EQ(shown(e) + "|" + e.lblGravity[0] + "|" + e.graphError, "Rager|1|1.050 0.200 0.020|1.070 1.090|(for gravities >= 1.050)|");
 }
 
 TEST(HopsEditor, EditsAreClampedAndKeepTheCurveRising) {
@@ -154,9 +152,7 @@ TEST(HopsEditor, PresetsKeepTheirTitleAndSetTheirFactors) {
   e.cmdTinseth();
   EXPECT_EQ(shown(e), "Tinseth|2|1.000 0.000125 0.030|1.030 1.060");
   EXPECT_EQ(curveText(e), "7.2 13.1 17.9 21.9 25.1 27.8 30.0 31.7 33.2 34.4 35.4 36.2 36.8 37.3 37.8 38.1 38.4 38.7");
-  EXPECT_TRUE(e.factorLocked[0]);
-  EXPECT_EQ(e.factorMaxLength[1], 8);
-  EXPECT_DOUBLE_EQ(e.graphIncrement, 0.03);
+  EXPECT_TRUE(e.factorLocked[0] && e.factorMaxLength[1] == 8 && e.graphIncrement == 0.03);
 
   e.cmdGaretz();
   EXPECT_EQ(shown(e), "Garetz|1|1.050 0.200 0.020|1.070 1.090");
@@ -166,8 +162,7 @@ TEST(HopsEditor, PresetsKeepTheirTitleAndSetTheirFactors) {
   e.cmdReset();
   EXPECT_EQ(shown(e), "None|0|N/A N/A N/A|N/A N/A");
   EXPECT_EQ(curveText(e), "0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0 0.0");
-  EXPECT_FALSE(e.factorEnabled[1]);
-  EXPECT_EQ(e.graph.size(), 1u);  // the base curve only
+  EXPECT_TRUE(!e.factorEnabled[1] && e.graph.size() == 1u);  // the base curve only
 
   e.cmdRager();
   EXPECT_EQ(e.lblTitle + " " + e.cells[6] + " " + e.cells[18], "Rager 15.3 30.0");
@@ -194,20 +189,14 @@ TEST(HopsEditor, FactorsAreMendedInAChain) {
   e.validateFactor(1);
   EXPECT_EQ(e.txtFactor[1] + " " + e.lblBottom[1], "0.000125 0.000125");
   e.setFactorText(1, "0.0002");
-  EXPECT_EQ(e.lblBottom[1], "0.000200");
-  EXPECT_EQ(e.lblBottom[0], "0.200");  // the other mode's copy is left alone
+  EXPECT_EQ(e.lblBottom[1] + " " + e.lblBottom[0], "0.000200 0.200");  // the other mode's copy is left alone
 }
 
 // A changed factor re-applies the last row through the cell rule, against the factor's old value
 // (the cell editor and the factor boxes share one remembered value): a named curve with a
 // hand-set factor is custom; leaving a box unchanged, or mended back to its old value, is not.
 TEST(HopsEditor, ChangedFactorMarksTheCurveCustom) {
-  struct Case {
-    void (HopsUtilizationEditor::*preset)();
-    int box;
-    const char* typed;
-    const char* title;
-  };
+  struct Case { void (HopsUtilizationEditor::*preset)(); int box; const char *typed, *title; };
   for (const Case& c : {Case{&HopsUtilizationEditor::cmdRager, 0, "1.06", kCustomCurveTitle},
                         Case{&HopsUtilizationEditor::cmdTinseth, 2, "0.05", kCustomCurveTitle},
                         Case{&HopsUtilizationEditor::cmdGaretz, 1, "0.2", "Garetz"},
@@ -277,8 +266,7 @@ TEST(HopsEditor, AcceptStoresEverythingCancelNothing) {
 
   HopsUtilization again;
   LoadHopsUtilization(again, s);
-  EXPECT_EQ(again.UtilTable, h.UtilTable);
-  EXPECT_EQ(again.UtilTitle, h.UtilTitle);
+  EXPECT_TRUE(again.UtilTable == h.UtilTable && again.UtilTitle == h.UtilTitle);
 
   // The Tinseth base survives the settings' decimal text.
   e.cmdTinseth();

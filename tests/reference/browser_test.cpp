@@ -177,10 +177,9 @@ TEST(ReferenceBrowser, MiniBooksShowTheirPageAndOpenTheirChapters) {
   ASSERT_EQ(br.trees[TreeMiniBooks].size(), 1u);
   const TopicNode& root = br.trees[TreeMiniBooks][0];
   EXPECT_EQ(root.text + "|" + root.tag, "First Brew|0 <P>Start here.</P>");
-  EXPECT_EQ(root.icon, TopicIcon::ClosedBook);
   ASSERT_EQ(root.children.size(), 2u);
-  EXPECT_EQ(root.children[0].icon, TopicIcon::Leaf);
-  EXPECT_EQ(root.children[1].icon, TopicIcon::Photo);
+  EXPECT_EQ(std::vector<TopicIcon>({root.icon, root.children[0].icon, root.children[1].icon}),
+            std::vector<TopicIcon>({TopicIcon::ClosedBook, TopicIcon::Leaf, TopicIcon::Photo}));
   EXPECT_EQ(root.children[1].tag, br.trees[TreeAllTopics][2].tag);
   br.setExpanded(0, true);
   EXPECT_EQ(std::string(iconKey(root.icon)), "OpenBook");
@@ -195,8 +194,8 @@ TEST(ReferenceBrowser, MiniBooksShowTheirPageAndOpenTheirChapters) {
                      "in that book.<br>\r\n<br><br><br><br>\r\n<H6>" + legalLine() + "</H6>\r\n");
   EXPECT_TRUE(br.trees[TreeHistory].empty());
   br.selectNode({TreeMiniBooks, 0, 1});
+  EXPECT_EQ(l.texts(TreeHistory), Texts{br.lblTitle});
   EXPECT_EQ(br.lblTitle, "Hops");
-  EXPECT_EQ(l.texts(TreeHistory), Texts{"Hops"});
   EXPECT_EQ(navigations, 2);
 }
 
@@ -216,8 +215,7 @@ TEST(ReferenceBrowser, AStoreWithThreePicturesShowsTwoAndStillReadsItsAlsoSee) {
   br.openTopicStore();
   br.loadEncyclopediaTopics();
   br.showFirstTopic();
-  EXPECT_NE(br.page.find("b.png"), std::string::npos);
-  EXPECT_EQ(br.page.find("c.png"), std::string::npos);
+  EXPECT_TRUE(br.page.find("b.png") != std::string::npos && br.page.find("c.png") == std::string::npos);
   size_t tables = 0;
   for (size_t at = br.page.find("<TABLE"); at != std::string::npos; at = br.page.find("<TABLE", at + 1)) ++tables;
   EXPECT_EQ(tables, 2u);
