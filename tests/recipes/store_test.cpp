@@ -150,11 +150,9 @@ TEST_F(StoreTest, ItemsAndCommentsAreRewrittenAndFreed) {
   // Recipe 1 with three items and a 121-character comment, recipe 2 with one item after them.
   save(1, {makeItem(0, "Pale", 8), makeItem(1, "Cascade", 1), makeItem(3, "Ale Yeast", 1)},
        std::string(120, 'a') + "b");
-  EXPECT_EQ(wb.recipe.rec.commentCount, 2);
-  EXPECT_EQ(findNextRecipeSlot(wb), 2);
+  EXPECT_EQ(std::vector<long>({wb.recipe.rec.commentCount, findNextRecipeSlot(wb)}), std::vector<long>({2, 2}));
   save(2, {makeItem(0, "Munich", 2)});
-  EXPECT_EQ(recordCount(items, 114), 4);
-  EXPECT_EQ(recordCount(comments, 126), 2);
+  EXPECT_EQ(std::vector<long>({recordCount(items, 114), recordCount(comments, 126)}), std::vector<long>({4, 2}));
 
   // Recipe 1 saved again, shorter: one item and a 120-character comment.
   ASSERT_TRUE(loadRecipe(wb, 1));
@@ -190,8 +188,7 @@ TEST_F(StoreTest, ItemsAndCommentsAreRewrittenAndFreed) {
   EXPECT_EQ(wb.recipe.comment, std::string(120, 'c'));
   wb.recipe.comment.clear();
   ASSERT_TRUE(saveCurrentRecipe(wb));
-  EXPECT_EQ(wb.recipe.rec.commentCount, 0);
-  EXPECT_EQ(ownerOf(comments, 126, 1), 0);
+  EXPECT_EQ(std::vector<long>({wb.recipe.rec.commentCount, ownerOf(comments, 126, 1)}), std::vector<long>({0, 0}));
   for (auto [len, count] : {std::pair{0, 0}, {1, 1}, {120, 1}, {121, 2}, {240, 2}})
     EXPECT_EQ(commentCountFor(len), count) << len;
 }
