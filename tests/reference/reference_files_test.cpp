@@ -29,8 +29,7 @@ TEST(ReferenceFiles, BuilderOutputReadsBackTopicByTopic) {
   const std::string out = dir.file("Reference");
   BuildReport r = buildReference(sampleTopics(), sampleBooks(), out);
   ASSERT_TRUE(r.ok()) << r.errors.front();
-  EXPECT_EQ(r.topicCount, 4);
-  EXPECT_EQ(r.bookCount, 1);
+  EXPECT_EQ(std::vector<int>({r.topicCount, r.bookCount}), std::vector<int>({4, 1}));
 
   std::vector<TocEntry> toc = readTocFile(out + "/ZythTOC.enc");
   std::vector<std::string> titles;
@@ -41,8 +40,7 @@ TEST(ReferenceFiles, BuilderOutputReadsBackTopicByTopic) {
   ReferenceReader store;
   store.open(out + "/Zyth.enc");
   TopicRecord boil = readTopicAt(store, toc[0].position);
-  EXPECT_EQ(boil.title, "Boiling the Wort");
-  EXPECT_TRUE(boil.images.empty());
+  EXPECT_TRUE(boil.title == "Boiling the Wort" && boil.images.empty());
   EXPECT_EQ(boil.alsoSee, (std::vector<std::string>{"Hops", "cooling", "Nonexistent Topic"}));
   TopicRecord hops = readTopicAt(store, toc[2].position);
   ASSERT_EQ(hops.images.size(), 2u);
@@ -191,8 +189,8 @@ TEST(ReferenceFiles, SourceTextsAreParsedAndConvertedTo8Bit) {
 
   parseTopicSource("bad.txt", "Title: A\nColour: red\n<P>no separator</P>", r);
   ASSERT_EQ(r.errors.size(), 3u);
-  EXPECT_EQ(r.errors[0], "bad.txt: no line \"---\" between the header and the body");
-  EXPECT_EQ(r.errors[1], "bad.txt: unknown header line \"colour\"");
+  EXPECT_EQ(r.errors[0] + "|" + r.errors[1],
+            "bad.txt: no line \"---\" between the header and the body|bad.txt: unknown header line \"colour\"");
 }
 
 TEST(ReferenceFiles, ShippedSourcesBuildCleanly) {
@@ -200,8 +198,7 @@ TEST(ReferenceFiles, ShippedSourcesBuildCleanly) {
   BuildReport r = buildReferenceFromFolder(std::string(ZY_SOURCE_DIR) + "/data/reference", dir.file("Reference"));
   for (const std::string& e : r.errors) ADD_FAILURE() << e;
   for (const std::string& w : r.warnings) ADD_FAILURE() << w;
-  EXPECT_GE(r.topicCount, 30);
-  EXPECT_GE(r.bookCount, 2);
+  EXPECT_TRUE(r.topicCount >= 30 && r.bookCount >= 2);
 }
 
 TEST(ReferenceFiles, MalformedFilesGoToTheErrorRoutine) {

@@ -110,8 +110,7 @@ TEST(UpdateCheck, NewerEqualAndMissingVersionsFromALocalServer) {
 
   // Newer: the question; Yes opens the download page of the same server.
   UpdateResult r = checkForUpdate(*b.wb, http, server.url("/newer/ZYCurrent.ver"), browser);
-  EXPECT_EQ(r.outcome, UpdateOutcome::Newer);
-  EXPECT_EQ(r.remoteVersion, "2.00.010");
+  EXPECT_TRUE(r.outcome == UpdateOutcome::Newer && r.remoteVersion == "2.00.010");
   EXPECT_EQ(shownLines(b.prompter),
             std::vector<std::string>{"Zythara Updates: A New Version of Zythara is available.  Download it Now?"});
   EXPECT_EQ(b.prompter.shown[0].buttons, Buttons::YesNo);
@@ -123,8 +122,7 @@ TEST(UpdateCheck, NewerEqualAndMissingVersionsFromALocalServer) {
   int before = server.requests();
   r = checkForUpdate(*b.wb, http, server.url("/newer/ZYCurrent.ver"), browser);
   EXPECT_EQ(r.outcome, UpdateOutcome::NotDue);
-  EXPECT_EQ(server.requests(), before);
-  EXPECT_EQ(http.requestCount, 1);
+  EXPECT_TRUE(server.requests() == before && http.requestCount == 1);
 
   // No: nothing opened.
   b.settings.write("Settings", "Check Update", "1/1/2007");
@@ -147,8 +145,7 @@ TEST(UpdateCheck, NewerEqualAndMissingVersionsFromALocalServer) {
     EXPECT_EQ(b.settings.read("Settings", "Check Update", ""), kNextCheck) << url;
   }
   EXPECT_EQ(r.remoteVersion, "");
-  EXPECT_EQ(b.prompter.shown.size(), shown);
-  EXPECT_EQ(b.wb->errors.reportCount, 0);
+  EXPECT_TRUE(b.prompter.shown.size() == shown && b.wb->errors.reportCount == 0);
 }
 
 TEST(UpdateCheck, TheAddressComesFromTheSettingsAndAFutureDateMakesNoRequest) {
@@ -157,18 +154,15 @@ TEST(UpdateCheck, TheAddressComesFromTheSettingsAndAFutureDateMakesNoRequest) {
   SocketHttpFetch http(3000);
   b.settings.write("Settings", "Update Address", server.url("/ZYCurrent.ver"));
   b.wb->defaults.autoUpdate = 0;  // "Automatically Check for Zythara Updates" off: no request at start
-  EXPECT_EQ(startupUpdateCheck(*b.wb, http).outcome, UpdateOutcome::NotDue);
-  EXPECT_EQ(server.requests(), 0);
+  EXPECT_TRUE(startupUpdateCheck(*b.wb, http).outcome == UpdateOutcome::NotDue && server.requests() == 0);
   b.wb->defaults.autoUpdate = 1;
-  EXPECT_EQ(startupUpdateCheck(*b.wb, http).outcome, UpdateOutcome::Current);
-  EXPECT_EQ(server.requests(), 1);
+  EXPECT_TRUE(startupUpdateCheck(*b.wb, http).outcome == UpdateOutcome::Current && server.requests() == 1);
 
   // Due exactly now is not earlier than now: not due.
   b.settings.write("Settings", "Check Update", "11/22/2026 10:30:00 AM");
   EXPECT_FALSE(updateCheckDue(*b.wb));
   b.settings.write("Settings", "Check Update", "12/31/2030");
-  EXPECT_EQ(checkForUpdate(*b.wb, http).outcome, UpdateOutcome::NotDue);
-  EXPECT_EQ(server.requests(), 1);
+  EXPECT_TRUE(checkForUpdate(*b.wb, http).outcome == UpdateOutcome::NotDue && server.requests() == 1);
   EXPECT_EQ(b.settings.read("Settings", "Check Update", ""), "12/31/2030");
   // An unreadable date is due, and is replaced.
   b.settings.write("Settings", "Check Update", "soon");
