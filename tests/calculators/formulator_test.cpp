@@ -60,8 +60,7 @@ TEST(MaltFormulator, SearchTradesTheBaseMaltForDarkerOnesUntilTheColourIsNear) {
   ASSERT_TRUE(b.f.mnuComputeOGColor());
   EXPECT_TRUE(b.cb.b.prompter.shown.empty());
   const double colour = lenientValue(b.f.txtCompColor);
-  EXPECT_GE(colour, 11.5);
-  EXPECT_LT(colour, 12.5);
+  EXPECT_TRUE(colour >= 11.5 && colour < 12.5) << colour;
   EXPECT_EQ(b.f.txtCompOG + " " + b.f.saveImage, "1.050 Save-Changed");
 }
 

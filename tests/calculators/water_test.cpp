@@ -97,8 +97,7 @@ TEST(WaterManagement, AdditionsWithoutRoundingAndTheWholeKettleBoiledAway) {
   CalcBench cb;
   WaterBalanceInputs in{8, 1.5, 6.0, 5.0, 0.4, 0.4, 60, false, true, true};
   WaterAdditions a = computeWaterAdditions(in, cb.wb.defaults, cb.wb.errors);
-  EXPECT_NEAR(a.kettleTopUp, 0.496 / 0.85, 1e-9);
-  EXPECT_EQ(a.fermenterTopUp, 0);
+  EXPECT_TRUE(std::abs(a.kettleTopUp - 0.496 / 0.85) < 1e-9 && a.fermenterTopUp == 0) << a.kettleTopUp;
 
   in.boilTime = 400;  // 15 percent an hour for 400 minutes: nothing survives
   in.fermentVolume = 50;
@@ -122,8 +121,7 @@ TEST(WaterTreatment, SaltsGiveTheirIonsAsShownAndTotalsSumTheShownCells) {
   EXPECT_EQ(t.grdTotals[WaterTreatment::ROW_TOTALS][1], "33");
   // A spinner steps teaspoons by the default 0.5 and the grams follow.
   t.udcDelta(3, +1);
-  EXPECT_EQ(t.txtTsp[3], "0.7");  // 1 g is 0.208 tsp, shown 0.2, plus 0.5
-  EXPECT_EQ(t.txtGrams[3], "3.4");
+  EXPECT_EQ(t.txtTsp[3] + " " + t.txtGrams[3], "0.7 3.4");  // 1 g is 0.208 tsp, shown 0.2, plus 0.5
   t.cmdReset();
   EXPECT_EQ(row(t, WaterTreatment::ROW_TOTALS), (std::vector<std::string>{"", "", "", "", "", ""}));
 }
@@ -146,8 +144,7 @@ TEST(WaterTreatment, RangeAgainstTheTargetWithItsThreshold) {
   }
   // An empty user target: a column is within range while its total is 0, else high.
   for (int j = 0; j < kIonCount; ++j) t.editTarget(j, "0");
-  EXPECT_EQ(t.cboFamous, 0);
-  EXPECT_EQ(t.userValues, (std::array<int, kIonCount>{}));
+  EXPECT_TRUE(t.cboFamous == 0 && t.userValues == (std::array<int, kIonCount>{}));
   t.setGrams(6, "8");
   EXPECT_EQ(row(t, WaterTreatment::ROW_RANGE), (std::vector<std::string>{"OK", "High", "OK", "OK", "High", "OK"}));
 }
@@ -178,8 +175,9 @@ TEST(WaterTreatment, RecipeSaltsLoadAndAcceptWritesTeaspoonsAndSettings) {
   const IngredientTable& g = cb.editor.sheet.grid;
   const int first = g.headerRow(KIND_OTHER) + 1;
   ASSERT_EQ(g.itemCount(KIND_OTHER), 3);
-  EXPECT_EQ(g.cell(first + 1, COL_QTY) + " " + g.cell(first + 1, COL_UNITS), "1.0 Tsp");
-  EXPECT_EQ(g.cell(first + 2, COL_NAME) + " " + g.cell(first + 2, COL_QTY), "Table Salt 1.0");
+  EXPECT_EQ(g.cell(first + 1, COL_QTY) + " " + g.cell(first + 1, COL_UNITS) + "|" + g.cell(first + 2, COL_NAME) + " " +
+                g.cell(first + 2, COL_QTY),
+            "1.0 Tsp|Table Salt 1.0");
   EXPECT_TRUE(cb.editor.recipeChanged());
 }
 

@@ -65,8 +65,7 @@ TEST(ScaleDialog, MetricSystemConvertsUnitsByTheTables) {
   ScaleDialog d;
   d.open(t.e);
   d.setUnitSystem(METRIC_MEASURES);  // proposes liters, the same volume
-  EXPECT_EQ(d.cboVolume, LITER_CONST);
-  EXPECT_EQ(d.txtVolume, "18.9");
+  EXPECT_TRUE(d.cboVolume == LITER_CONST && d.txtVolume == "18.9") << d.txtVolume;
   d.txtVolume = "20";
   ASSERT_TRUE(d.apply(t.e));
   // 10 lbs * 1.0567 = 10.567 lbs = 4.793 kg, brought to a multiple of 0.05; teaspoons stay
@@ -82,13 +81,11 @@ TEST(ScaleDialog, MetricSystemConvertsUnitsByTheTables) {
   ScaleDialog b;
   b.open(t.e);
   b.setUnitSystem(IMPERIAL_MEASURES);
-  EXPECT_EQ(b.cboVolume, IMPERIAL_GAL_CONST);
-  EXPECT_EQ(b.txtVolume, "4.4");
+  EXPECT_TRUE(b.cboVolume == IMPERIAL_GAL_CONST && b.txtVolume == "4.4") << b.txtVolume;
   ASSERT_TRUE(b.apply(t.e));
   EXPECT_EQ(t.cell(1, COL_UNITS) + t.cell(1, COL_QTY) + " " + t.cell(3, COL_UNITS) + " " + t.cell(6, COL_UNITS),
             "Lbs10.6 Oz Imp Fl Oz");  // 4.8 * 1.0001 kg in pounds
-  EXPECT_EQ(t.e.lblVolumeUnits, "Imp Gallons");
-  EXPECT_EQ(t.wb.recipe.rec.unitType, IMPERIAL_MEASURES);
+  EXPECT_TRUE(t.e.lblVolumeUnits == "Imp Gallons" && t.wb.recipe.rec.unitType == IMPERIAL_MEASURES);
 }
 
 TEST(ScaleDialog, NoVolumeMeansNoScaling) {
@@ -114,11 +111,11 @@ TEST(ScaleDialog, UnitsOfEachSystem) {
                               scaledUnit(KIND_OTHER, 9, IMPERIAL_MEASURES), scaledUnit(KIND_OTHER, 4, METRIC_MEASURES),
                               scaledUnit(KIND_YEAST, 2, METRIC_MEASURES)}),
             std::vector<int>({UNIT_KG, UNIT_OZ, UNIT_LBS, 9, 12, 4, 2}));
-  EXPECT_DOUBLE_EQ(unitFactor(KIND_MALT, UNIT_LBS, UNIT_KG), 0.4535924);
-  EXPECT_NEAR(unitFactor(KIND_OTHER, 8, 10), 29.5735296875, 1e-9);
-  EXPECT_NEAR(unitFactor(KIND_OTHER, 13, 10), 28.41307425, 1e-9);
-  EXPECT_DOUBLE_EQ(unitFactor(KIND_OTHER, 6, 9), 3.7854118);
-  EXPECT_DOUBLE_EQ(unitFactor(KIND_YEAST, 0, 3), 1.0);
+  // Pounds to kilograms, US and imperial fluid ounces to mL, US gallons to liters; yeast units stay.
+  const struct { int kind, from, to; double factor; } factors[] = {
+      {KIND_MALT, UNIT_LBS, UNIT_KG, 0.4535924}, {KIND_OTHER, 8, 10, 29.5735296875}, {KIND_OTHER, 13, 10, 28.41307425},
+      {KIND_OTHER, 6, 9, 3.7854118}, {KIND_YEAST, 0, 3, 1.0}};
+  for (const auto& f : factors) EXPECT_NEAR(unitFactor(f.kind, f.from, f.to), f.factor, 1e-9) << f.from << " " << f.to;
   EXPECT_EQ(std::string(ScaleDialog::unitCaptions()[2]), "British (Imperial Gallons, Pounds)");
 }
 

@@ -37,13 +37,13 @@ TEST(ShippedStyles, SheetsBuildFilesThatLoadWithoutAWord) {
   ASSERT_TRUE(buildStyleTablesFromSheets(test::readFile(kSheets + "categories.csv"), test::readFile(kSheets + "styles.csv"),
                                          *t, error))
       << error;
-  EXPECT_EQ(t->BeerCategoryCount, 46);
-  EXPECT_EQ(t->BeerStyleCount, 237);
+  EXPECT_EQ(std::vector<int>({t->BeerCategoryCount, t->BeerStyleCount}), std::vector<int>({46, 237}));
 
   test::Bench b;
   writeStyleFiles(*t, b.wb->folder.dataFile(kCategoryFile), b.wb->folder.dataFile(kStyleFile));
-  EXPECT_EQ(test::readFile(b.wb->folder.dataFile(kCategoryFile)).size(), 46u * 146u);
-  EXPECT_EQ(test::readFile(b.wb->folder.dataFile(kStyleFile)).size(), 237u * 190u);  // empty comments
+  EXPECT_EQ(std::vector<size_t>({test::readFile(b.wb->folder.dataFile(kCategoryFile)).size(),
+                                 test::readFile(b.wb->folder.dataFile(kStyleFile)).size()}),
+            std::vector<size_t>({46u * 146u, 237u * 190u}));  // empty comments
   ASSERT_TRUE(LoadBeerStyles(*b.wb));
   EXPECT_TRUE(b.prompter.shown.empty());
   const StyleTables& s = b.wb->styles;
@@ -52,8 +52,8 @@ TEST(ShippedStyles, SheetsBuildFilesThatLoadWithoutAWord) {
   const BeerStyleRecord* koelsch = byName(s, "K\xF6lsch");
   const BeerStyleRecord* esb = byName(s, "Extra Special Bitter");
   ASSERT_TRUE(koelsch && esb);
-  EXPECT_EQ(categoryLabel(s, koelsch->categoryIndex, true), "5 Pale Bitter European Beer");
-  EXPECT_EQ(categoryLabel(s, esb->categoryIndex, true), "1 British Origin Ale Styles - Ale Styles");
+  EXPECT_EQ(categoryLabel(s, koelsch->categoryIndex, true) + "|" + categoryLabel(s, esb->categoryIndex, true),
+            "5 Pale Bitter European Beer|1 British Origin Ale Styles - Ale Styles");
 
   // Every line of both sheets lands in its row of the files, in sheet order: names in
   // Windows-1252, quoted names with commas, and a range the guideline leaves open as 0 to 0.
@@ -63,10 +63,9 @@ TEST(ShippedStyles, SheetsBuildFilesThatLoadWithoutAWord) {
     const auto& c = cats[i];
     ASSERT_EQ(c.size(), 4u);
     const BeerCategoryRecord& r = s.BeerCategories[i];
-    EXPECT_EQ(styleSourceName(r.source), c[0]) << i;
-    EXPECT_EQ(trim(r.id), c[1]) << i;
-    EXPECT_EQ(cp1252ToUtf8(trim(r.category)), c[2]) << i;
-    EXPECT_EQ(cp1252ToUtf8(trim(r.subCategory)), c[3]) << i;
+    EXPECT_EQ(std::vector<std::string>({styleSourceName(r.source), trim(r.id), cp1252ToUtf8(trim(r.category)),
+                                        cp1252ToUtf8(trim(r.subCategory))}),
+              c) << i;
   }
   const auto styles = sheetRows(kSheets + "styles.csv");
   ASSERT_EQ(static_cast<int>(styles.size()), s.BeerStyleCount);
@@ -76,10 +75,9 @@ TEST(ShippedStyles, SheetsBuildFilesThatLoadWithoutAWord) {
     const BeerStyleRecord& r = s.BeerStyles[i];
     EXPECT_EQ(styleSourceName(r.source), c[0]) << i;
     const BeerCategoryRecord& cat = s.BeerCategories[static_cast<size_t>(findCategoryRow(s, r.categoryIndex))];
-    EXPECT_EQ(trim(cat.id), c[1]) << i;
     EXPECT_EQ(cat.source, r.source) << i;
-    EXPECT_EQ(trim(r.styleId), c[2]) << i;
-    EXPECT_EQ(cp1252ToUtf8(trim(r.styleName)), c[3]) << i;
+    EXPECT_EQ(std::vector<std::string>({trim(cat.id), trim(r.styleId), cp1252ToUtf8(trim(r.styleName))}),
+              std::vector<std::string>(c.begin() + 1, c.begin() + 4)) << i;
     const double ranges[10] = {r.ogLow, r.ogHigh, r.fgLow, r.fgHigh, r.ibuLow, r.ibuHigh,
                                r.srmLow, r.srmHigh, r.alcoholLow, r.alcoholHigh};
     for (size_t k = 0; k < 10; ++k) EXPECT_EQ(ranges[k], c[4 + k].empty() ? 0.0 : std::stod(c[4 + k])) << i << " " << k;
@@ -94,9 +92,9 @@ TEST(ShippedStyles, SheetsThatDoNotFitAreRefusedWithTheirLine) {
   auto t = std::make_unique<StyleTables>();
   std::string error;
   ASSERT_TRUE(buildStyleTablesFromSheets(cats, head + "AOB,1,9,\"Say \"\"Hi\"\"\",1,2,1,1,,,3,4,5,6\r\n", *t, error));
+  // The AOB category, not the BJCP one with the same id; an open range as 0.
   EXPECT_EQ(trim(t->BeerStyles[0].styleName), "Say \"Hi\"");
-  EXPECT_EQ(t->BeerStyles[0].categoryIndex, 1);  // the AOB category, not the BJCP one with the same id
-  EXPECT_EQ(t->BeerStyles[0].ibuHigh, 0.0);
+  EXPECT_TRUE(t->BeerStyles[0].categoryIndex == 1 && t->BeerStyles[0].ibuHigh == 0.0);
 
   EXPECT_FALSE(buildStyleTablesFromSheets(cats, head + "BJCP,1,1A,X,a,2,1,1,1,1,1,1,1,1\n", *t, error));
   EXPECT_EQ(error, "styles line 2: bad range a to 2");
