@@ -57,8 +57,8 @@ TEST(CliList, ImportNumbersDoubledNamesAndTreeShowsThem) {
                               "Date=\"Oct-05-1998\", Style=\"Porter\"\r\n"));
   EXPECT_TRUE(out.ends_with("\"A dark, roasty ale.\r\nServe at 55\xB0" "F, say \"\"cellar\"\".\"\r\n<Comments_End>\r\n"
                             "<End_Recipe_Format>\r\n"));
-  EXPECT_EQ(h.run({"export", "9", h.dir.file("none.zyr")}).status, 1);
-  EXPECT_EQ(h.run({"export", "1"}).status, 2);
+  EXPECT_EQ(std::vector<int>({h.run({"export", "9", h.dir.file("none.zyr")}).status, h.run({"export", "1"}).status}),
+            std::vector<int>({1, 2}));
 }
 
 TEST(CliList, ListFileOfEveryRecipeAndBadInput) {
@@ -91,8 +91,7 @@ TEST(CliList, AnOlderFileWithoutUnitsOpensInTheDefaultUnits) {
   ASSERT_EQ(h.run({"import", h.dir.file("old.rec")}).status, 0);
   // The store keeps what the reader read: no unit.
   CliResult d = h.run({"dump", "1"});
-  EXPECT_NE(d.out.find("\nvolumeUnits=-1\n"), std::string::npos);
-  EXPECT_NE(d.out.find("\nitem[0].quantityUnits=-1\n"), std::string::npos);
+  for (const char* line : {"\nvolumeUnits=-1\n", "\nitem[0].quantityUnits=-1\n"}) EXPECT_NE(d.out.find(line), std::string::npos);
   // The editor reads it in the default units (gallons, pounds, ounces) instead of ending.
   EXPECT_TRUE(startsWith(h.run({"calc", "1"}).all(), "0|Color=3.8\nOG=1.046\nFG=1.013\nAlcohol=4.4\nIBU=22\n"));
 }
@@ -101,8 +100,7 @@ TEST(CliList, FreedSlotsAndFileNamesOutsideAscii) {
   CliHome h;
   writeFile(h.dir.file("M\xC3\xA4rzen.zyr"), kPorter);
   ASSERT_EQ(h.run({"import", h.dir.file("M\xC3\xA4rzen.zyr")}).status, 0);
-  EXPECT_EQ(h.run({"export", "1", h.dir.file("K\xC3\xB6lsch.zyr")}).status, 0);
-  EXPECT_TRUE(fileExists(h.dir.file("K\xC3\xB6lsch.zyr")));
+  EXPECT_TRUE(h.run({"export", "1", h.dir.file("K\xC3\xB6lsch.zyr")}).status == 0 && fileExists(h.dir.file("K\xC3\xB6lsch.zyr")));
   ASSERT_EQ(h.run({"delete", "1"}).status, 0);
   for (const char* verb : {"dump", "calc", "match", "export"}) {
     std::vector<std::string> args = {verb, "1"};

@@ -61,8 +61,7 @@ TEST(ReferenceVerbs, BackupRestoreAndCheckUpdate) {
             "[Backup Zythara Databases] Zythara Database Backup Canceled\n");
 
   writeFile(h.dir.file("Data/ZYRecipe.dat"), "changed");
-  EXPECT_EQ(h({"restore", h.dir.file("bk")}).status, 0);
-  EXPECT_EQ(readFile(h.dir.file("Data/ZYRecipe.dat")), recipes);
+  EXPECT_TRUE(h({"restore", h.dir.file("bk")}).status == 0 && readFile(h.dir.file("Data/ZYRecipe.dat")) == recipes);
   EXPECT_EQ(h({"restore", h.dir.file("nothing")}).all(),
             "1||[Restore All Zythara Databases] No Backup Files in this Folder, Be Sure to Double-Click the "
             "Desired Folder\n");

@@ -38,8 +38,7 @@ std::string commentBytes(int owner, const std::string& text) { return le16(200) 
 
 TEST(CliStore, ScanAndDumpFilesOfAnotherWriter) {
   CliHome h;
-  ASSERT_EQ(recipeBytes(1, "x", 0, 0).size(), 1546u);
-  ASSERT_EQ(itemBytes(1, 0, "x", 1).size(), 114u);
+  ASSERT_TRUE(recipeBytes(1, "x", 0, 0).size() == 1546u && itemBytes(1, 0, "x", 1).size() == 114u);
   std::string freed = recipeBytes(2, "Gone", 0, 0);
   freed[2] = 0;
   writeFile(h.data("ZYRecipe.dat"), recipeBytes(1, "Robust Porter", 2, 2) + freed + recipeBytes(3, "M\xE4rzen", 0, 0));
@@ -65,16 +64,16 @@ TEST(CliStore, ScanAndDumpFilesOfAnotherWriter) {
   EXPECT_EQ(lines[lines.size() - 2], "comment=" + std::string(118, 'a') + "\\nend");
   // The fields come in record order.
   auto pos = [&](const std::string& l) { return std::find(lines.begin(), lines.end(), l) - lines.begin(); };
-  EXPECT_LT(pos("mashStepTemp[0]=152"), pos("mashStepTime[0]=60"));
-  EXPECT_LT(pos("mashEfficiency=75"), pos("mashReservedCode=0"));
-  EXPECT_LT(pos("controlEnd=299"), pos("item[0].controlStart=200"));
+  for (auto [before, after] : {std::pair{"mashStepTemp[0]=152", "mashStepTime[0]=60"},
+                               {"mashEfficiency=75", "mashReservedCode=0"}, {"controlEnd=299", "item[0].controlStart=200"}})
+    EXPECT_LT(pos(before), pos(after)) << before;
 }
 
 TEST(CliStore, NewAndDeleteThenReuse) {
   CliHome h;
   EXPECT_EQ(h.run({"new", "Amber", "Ale"}).all(), "0|1\n|");
   EXPECT_EQ(h.run({"new", "Stout"}).out, "2\n");
-  EXPECT_EQ(h.run({"delete", "1"}).status, 0);
+  EXPECT_EQ(h.run({"delete", "1"}).all(), "0||");
   EXPECT_EQ(h.run({"scan"}).out, "2\tStout\n");
   // A new run searches from the first record again.
   EXPECT_EQ(h.run({"new", "K\xC3\xB6lsch"}).out, "1\n");
