@@ -202,8 +202,7 @@ TEST(RecipeEditor, FermentationFieldsTravelWithTheRecipe) {
   f.setCarbonation(2);
   f.setStageValue(2, "2");
   f.setStageUnits(2, 2);
-  ASSERT_TRUE(t.e.mnuFileSave_Click());
-  ASSERT_TRUE(loadRecipe(t.wb, 1));
+  ASSERT_TRUE(t.e.mnuFileSave_Click() && loadRecipe(t.wb, 1));
   RecipeRecord r = t.wb.recipe.rec;
   EXPECT_EQ(std::vector<double>({static_cast<double>(r.agingCount), static_cast<double>(r.agingUnits), r.agingTemp,
                                  static_cast<double>(r.container), static_cast<double>(r.carbonation),
@@ -215,8 +214,7 @@ TEST(RecipeEditor, FermentationFieldsTravelWithTheRecipe) {
   EXPECT_EQ(std::string(f.chkAge ? "on" : "off") + " " + f.txtAgeValue + " [" + f.txtAgeTemp + "]", "on 6 []");
   f.setAgeTemp("4");
   f.setAge(false);
-  ASSERT_TRUE(t.e.mnuFileSave_Click());
-  ASSERT_TRUE(loadRecipe(t.wb, 1));
+  ASSERT_TRUE(t.e.mnuFileSave_Click() && loadRecipe(t.wb, 1));
   r = t.wb.recipe.rec;
   EXPECT_EQ(std::vector<double>({static_cast<double>(r.agingCount), static_cast<double>(r.agingUnits), r.agingTemp}),
             std::vector<double>({0, -1, -9999.0}));
@@ -488,8 +486,7 @@ TEST(RecipeEditor, StylesKnownUnknownAndChosen) {
   EXPECT_EQ(styleState(), "0 <Not A Recognized Beer Style> -1 N/A");
   EXPECT_FALSE(t.e.recipeChanged());
   // Saved unchanged, the unknown name stays in the record.
-  ASSERT_TRUE(t.e.mnuFileSave_Click());
-  ASSERT_TRUE(loadRecipe(t.wb, 1));
+  ASSERT_TRUE(t.e.mnuFileSave_Click() && loadRecipe(t.wb, 1));
   EXPECT_EQ(trim(t.wb.recipe.rec.beerStyle), "Martian Red Ale");
 
   ASSERT_EQ(t.e.styleList.size(), 3u);
@@ -499,8 +496,7 @@ TEST(RecipeEditor, StylesKnownUnknownAndChosen) {
   EXPECT_TRUE(t.e.recipeChanged());
   t.e.chooseStyle(1);
   EXPECT_EQ(styleState(), "1 <Not Specified> -1 N/A");
-  ASSERT_TRUE(t.e.mnuFileSave_Click());
-  ASSERT_TRUE(loadRecipe(t.wb, 1));
+  ASSERT_TRUE(t.e.mnuFileSave_Click() && loadRecipe(t.wb, 1));
   EXPECT_EQ(trim(t.wb.recipe.rec.beerStyle), "");  // "<Not Specified>" saves blank
 
   // A style hidden by the filter stays the recipe's style.

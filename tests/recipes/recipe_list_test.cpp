@@ -79,8 +79,7 @@ TEST_F(ListTest, DoubledNamesAreNumberedByTagWhileTheFileKeepsItsName) {
   // A later add (the editor's save of a new recipe) takes the next free number and changes
   // the current recipe's name, which the caller then saves.
   newRecipeRecord(wb);
-  wb.recipe.rec.recipeNo = 14;
-  wb.recipe.rec.recipeName = "  Amber  ";
+  wb.recipe.rec.recipeNo = 14, wb.recipe.rec.recipeName = "  Amber  ";
   ASSERT_TRUE(list.addToRecipeList(wb, true));
   EXPECT_EQ(wb.recipe.rec.recipeName + "|" + list.selectedKey + "|" + list.lblTitle, "Amber 23|R14| Sorted By Name: 14");
   EXPECT_TRUE(list.deleteEnabled && list.exportEnabled && list.genHTMLEnabled);
@@ -91,8 +90,7 @@ TEST_F(ListTest, AChainOfNumberedNamesEndsWhenItsNumberOutgrowsSixteenBits) {
   list.sortMode = SORT_BY_NAME;
   for (int no = 1; no <= 32; ++no) {
     wb.recipe.rec = RecipeRecord{};
-    wb.recipe.rec.recipeNo = no;
-    wb.recipe.rec.recipeName = "Amber";
+    wb.recipe.rec.recipeNo = no, wb.recipe.rec.recipeName = "Amber";
     EXPECT_EQ(list.addToRecipeList(wb, false), no <= 31) << no;
   }
   EXPECT_EQ(list.tree.find("R14")->tag + "|" + list.tree.find("R15")->tag + "|" + list.tree.find("R31")->tag + "|" +
@@ -104,9 +102,7 @@ TEST_F(ListTest, AChainOfNumberedNamesEndsWhenItsNumberOutgrowsSixteenBits) {
 
 TEST_F(ListTest, ANumberedNameStaysWithinTheSixtyCharactersOfTheRecord) {
   const std::string full(60, 'x');
-  store(1, {full});
-  store(2, {full});
-  store(3, {full});
+  for (int no = 1; no <= 3; ++no) store(no, {full});
   ASSERT_TRUE(list.mnuSortBy_Click(wb, SORT_BY_NAME));
   EXPECT_EQ(list.tree.find("R2")->tag + "|" + list.tree.find("R3")->tag,
             std::string(58, 'x') + " 1|" + std::string(58, 'x') + " 2");

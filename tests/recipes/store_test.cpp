@@ -158,18 +158,17 @@ TEST_F(StoreTest, ItemsAndCommentsAreRewrittenAndFreed) {
   ASSERT_TRUE(loadRecipe(wb, 1));
   EXPECT_EQ(std::to_string(wb.recipe.rec.itemCount) + trim(wb.recipe.items[1].itemName) + wb.recipe.comment,
             "3Cascade" + std::string(120, 'a') + "b");
-  wb.recipe.rec.itemCount = 1;
-  wb.recipe.comment = std::string(120, 'c');
+  wb.recipe.rec.itemCount = 1, wb.recipe.comment = std::string(120, 'c');
   ASSERT_TRUE(saveCurrentRecipe(wb));
   EXPECT_EQ(wb.recipe.rec.commentCount, 1);
-  for (auto [n, owner] : {std::pair{1, 1}, {2, 0}, {3, 0}, {4, 2}}) EXPECT_EQ(ownerOf(items, 114, n), owner) << n;
-  EXPECT_EQ(ownerOf(comments, 126, 2), 0);
+  // The owners of the four item records and of the second comment record.
+  EXPECT_EQ(std::vector<int>({ownerOf(items, 114, 1), ownerOf(items, 114, 2), ownerOf(items, 114, 3),
+                              ownerOf(items, 114, 4), ownerOf(comments, 126, 2)}),
+            std::vector<int>({1, 0, 0, 2, 0}));
 
   // Recipe 2 grows to three items: the freed records 2 and 3 are reused, nothing appended.
   ASSERT_TRUE(loadRecipe(wb, 2));
-  wb.recipe.rec.itemCount = 3;
-  wb.recipe.items[1] = makeItem(0, "Crystal", 1);
-  wb.recipe.items[2] = makeItem(1, "Fuggle", 1);
+  wb.recipe.rec.itemCount = 3, wb.recipe.items[1] = makeItem(0, "Crystal", 1), wb.recipe.items[2] = makeItem(1, "Fuggle", 1);
   ASSERT_TRUE(saveCurrentRecipe(wb));
   EXPECT_EQ(std::vector<long>({recordCount(items, 114), ownerOf(items, 114, 2)}), std::vector<long>({4, 2}));
   ASSERT_TRUE(loadRecipe(wb, 2));
@@ -181,8 +180,7 @@ TEST_F(StoreTest, ItemsAndCommentsAreRewrittenAndFreed) {
 
   // An empty comment with none before leaves the comment file alone.
   const std::string before = readFile(comments);
-  EXPECT_TRUE(saveCurrentRecipe(wb));
-  EXPECT_EQ(readFile(comments), before);
+  EXPECT_TRUE(saveCurrentRecipe(wb) && readFile(comments) == before);
   // Emptying recipe 1's comment frees its record.
   ASSERT_TRUE(loadRecipe(wb, 1));
   EXPECT_EQ(wb.recipe.comment, std::string(120, 'c'));
@@ -196,8 +194,7 @@ TEST_F(StoreTest, ItemsAndCommentsAreRewrittenAndFreed) {
 TEST_F(StoreTest, SavingWithoutARecordNumberEndsTheProgram) {
   newRecipeRecord(wb);  // recipeNo 0: no slot was taken
   EXPECT_THROW(saveCurrentRecipe(wb), Terminated);
-  EXPECT_EQ(b.prompter.shown.back().text,
-            "Error #63(Bad record number) in frmRecipeList!saveCurrentRecipe at Line 0");
+  EXPECT_EQ(b.prompter.shown.back().text, "Error #63(Bad record number) in frmRecipeList!saveCurrentRecipe at Line 0");
   EXPECT_EQ(readFile(recipes), "");
 }
 
