@@ -18,10 +18,11 @@ const char* const kOrder[] = {"ZYRecipe.dat",  "ZYRItems.dat",   "ZYComment.dat"
                               "ZYStyle.dat",   "ZYBatchLog.dat", "ZYInvHops.dat",  "ZYInvMalt.dat",
                               "ZYInvOther.dat", "ZYInvYeast.dat", "ZYInvSupplies.dat"};
 
-FolderPicker confirm(std::vector<std::pair<std::string, std::string>>& asked) {
-  return [&asked](const std::string& title, const std::string& initial) -> std::optional<std::string> {
+// Notes each question (title and proposed folder) and answers `folder`, or the proposed one.
+FolderPicker confirm(std::vector<std::pair<std::string, std::string>>& asked, std::optional<std::string> folder = {}) {
+  return [&asked, folder](const std::string& title, const std::string& initial) -> std::optional<std::string> {
     asked.emplace_back(title, initial);
-    return initial;
+    return folder ? folder : initial;
   };
 }
 
@@ -125,11 +126,7 @@ TEST(Restore, FromABackupFolderWithItsRestartMessage) {
   fs::create_directories(empty);
   writeFile(empty + "/ZYInvHops.dat", "old hops");
   std::vector<std::pair<std::string, std::string>> asked;
-  FolderPicker pickEmpty = [&](const std::string& title, const std::string& initial) -> std::optional<std::string> {
-    asked.emplace_back(title, initial);
-    return empty;
-  };
-  EXPECT_EQ(restoreAllDatabases(wb, pickEmpty), BackupOutcome::Refused);
+  EXPECT_EQ(restoreAllDatabases(wb, confirm(asked, empty)), BackupOutcome::Refused);
   EXPECT_EQ(asked, (std::vector<std::pair<std::string, std::string>>{
                        {"Restore All Zythara Databases", b.dir.path() + "/Backups"}}));
   EXPECT_EQ(shownLines(b.prompter),

@@ -21,14 +21,13 @@ struct EditorBench {
     t.BeerCategories[0].source = STYLE_SOURCE_BJCP, t.BeerCategories[0].id = "1", t.BeerCategories[0].category = "Pale Ales";
     t.BeerCategories[1].category = "Mine", t.BeerCategories[1].categoryIndex = 1;
     t.BeerCategoryCount = 2;
-    t.BeerStyles[0].source = STYLE_SOURCE_BJCP, t.BeerStyles[0].styleName = "Pale One";
-    t.BeerStyles[0].ogLow = 1.044, t.BeerStyles[0].ogHigh = 1.052;
+    BeerStyleRecord& s = t.BeerStyles[0];
+    s.source = STYLE_SOURCE_BJCP, s.styleName = "Pale One", s.ogLow = 1.044, s.ogHigh = 1.052;
     t.BeerStyleCount = 1;
   }
   StyleForm form(const std::string& name, int category = 1) {
     StyleForm f;
-    f.txtName = name;
-    f.category = category;
+    f.txtName = name, f.category = category;
     f.txtRange = {"1.050", "1.060", "1.010", "1.014", "30", "45", "8", "14", "5", "6.2"};
     return f;
   }
