@@ -47,8 +47,7 @@ TEST(HopsLookup, RagerCurveAtTheNamedMinutes) {
 
 TEST(HopsDivisor, ThresholdFirstThenTheMode) {
   HopsUtilization h;  // mode 1, 1.050, 0.200; exactly at Factor1 - 1 and below it: 1
-  EXPECT_EQ(h.gravityAdjustmentDivisor(0.05), 1.0);
-  EXPECT_EQ(h.gravityAdjustmentDivisor(0.03), 1.0);
+  EXPECT_TRUE(h.gravityAdjustmentDivisor(0.05) == 1.0 && h.gravityAdjustmentDivisor(0.03) == 1.0);
   EXPECT_DOUBLE_EQ(h.gravityAdjustmentDivisor(boilGravityExcess(5, 5, 0.060)), 1.05);  // a 1.060 wort, full boil
   // Half the volume boiled doubles the excess: (0.12 + 1 - 1.05) / 0.2 + 1.
   EXPECT_DOUBLE_EQ(h.gravityAdjustmentDivisor(boilGravityExcess(5, 2.5, 0.060)), 1.35);

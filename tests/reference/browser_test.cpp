@@ -64,8 +64,7 @@ TEST(ReferenceBrowser, HistoryKeepsOneNodeForARepeatAndAtMostAHundred) {
   br.selectNode({TreeAllTopics, 100, -1});
   EXPECT_EQ(historyState(br), "Topic 100|0|back|100");
   br.selectNode({TreeAllTopics, 101, -1});
-  EXPECT_EQ(h.front().text + " " + h.back().text, "Topic 101 Topic 000");
-  EXPECT_EQ(h.size(), 100u);
+  EXPECT_EQ(h.front().text + " " + h.back().text + " " + std::to_string(h.size()), "Topic 101 Topic 000 100");
 }
 
 TEST(ReferenceBrowser, AlsoSeeListsMatchingTopicsAndStaysWhileWalkingIt) {
@@ -79,8 +78,8 @@ TEST(ReferenceBrowser, AlsoSeeListsMatchingTopicsAndStaysWhileWalkingIt) {
   };
   EXPECT_EQ(alsoSee(), "* A&lso See|Boiling the Wort|-");
   EXPECT_EQ(br.lblAlsoSeeTopicTag, br.trees[TreeAllTopics][0].tagValue());
-  EXPECT_EQ(br.trees[TreeAlsoSee][0].icon, TopicIcon::Photo);
-  EXPECT_EQ(br.trees[TreeAlsoSee][0].tag, br.trees[TreeAllTopics][2].tag);
+  EXPECT_TRUE(br.trees[TreeAlsoSee][0].icon == TopicIcon::Photo &&
+              br.trees[TreeAlsoSee][0].tag == br.trees[TreeAllTopics][2].tag);
 
   // Walking through the list leaves it in place; Hops has an entry of its own pending.
   br.selectNode({TreeAlsoSee, 0, -1});
@@ -112,8 +111,7 @@ TEST(ReferenceBrowser, AlsoSeeListsMatchingTopicsAndStaysWhileWalkingIt) {
   // No entries at all: the tab unmarked, the list and its label emptied.
   br.selectNode({TreeAllTopics, 3, -1});
   EXPECT_TRUE(br.trees[TreeAlsoSee].empty());
-  EXPECT_EQ(alsoSee(), "  A&lso See||-");
-  EXPECT_EQ(br.lblAlsoSeeTopicTag, 0);
+  EXPECT_EQ(alsoSee() + std::to_string(br.lblAlsoSeeTopicTag), "  A&lso See||-0");
 }
 
 TEST(ReferenceBrowser, SearchReadsTitlesThenTheTextBehindTheBodyLength) {
@@ -152,8 +150,7 @@ TEST(ReferenceBrowser, SearchReadsTitlesThenTheTextBehindTheBodyLength) {
   br.cmdSearch();
   EXPECT_EQ(br.lblSearch, "1 Found");
   br.cmdClear();
-  EXPECT_EQ(br.txtSearch + br.lblSearch, "");
-  EXPECT_TRUE(br.trees[TreeSearch].empty());
+  EXPECT_TRUE(br.txtSearch + br.lblSearch == "" && br.trees[TreeSearch].empty());
 }
 
 TEST(ReferenceBrowser, ASearchHitOnTheTitleDoesNotReadTheBody) {
@@ -195,8 +192,7 @@ TEST(ReferenceBrowser, MiniBooksShowTheirPageAndOpenTheirChapters) {
   EXPECT_TRUE(br.trees[TreeHistory].empty());
   br.selectNode({TreeMiniBooks, 0, 1});
   EXPECT_EQ(l.texts(TreeHistory), Texts{br.lblTitle});
-  EXPECT_EQ(br.lblTitle, "Hops");
-  EXPECT_EQ(navigations, 2);
+  EXPECT_EQ(br.lblTitle + " " + std::to_string(navigations), "Hops 2");
 }
 
 TEST(ReferenceBrowser, AStoreWithThreePicturesShowsTwoAndStillReadsItsAlsoSee) {
