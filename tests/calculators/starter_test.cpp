@@ -7,6 +7,10 @@ using namespace zy;
 using namespace zy::test;
 
 TEST(StarterCalculator, ResultsByUnitSystem) {
+  // Unit system, volume unit, volume, gravity and carbonation level; the two results shown and
+  // whether the kraeusening volume can be added. 5 gallons: 16 ounces of starter, and
+  // 5 * 12.8 * 0.04 / 0.05 = 51.2 of young beer; 20 liters: 0.5 liters, and 5.283 gallons * 0.1 *
+  // 0.8 back in liters, 1.6; in British units the conversion pair shows, unformatted.
   struct Case {
     int unitType, volumeUnit;
     const char *volume, *gravity;
@@ -14,20 +18,16 @@ TEST(StarterCalculator, ResultsByUnitSystem) {
     const char *starter, *kraeusen;
     bool enabled;
   };
+  const char* us = "Yeast Starter Volume = 16 US Fl Oz";
   const std::vector<Case> cases = {
-      // 5 gallons: 16 ounces of starter; 5 * 12.8 * 0.04 / 0.05 = 51.2 of young beer.
-      {US_MEASURES, US_GAL_CONST, "5.0", "1.050", 1, "Yeast Starter Volume = 16 US Fl Oz",
-       " Kraeusening Volume = 51 US Fl Oz", true},
-      {US_MEASURES, US_GAL_CONST, "5.0", "1.050", 2, "Yeast Starter Volume = 16 US Fl Oz",
-       " Kraeusening Volume = 60 US Fl Oz", true},
-      {US_MEASURES, US_GAL_CONST, "5.0", "1.000", 1, "Yeast Starter Volume = 16 US Fl Oz",
-       " Kraeusening Volume = N/A", false},
+      {US_MEASURES, US_GAL_CONST, "5.0", "1.050", 1, us, " Kraeusening Volume = 51 US Fl Oz", true},
+      {US_MEASURES, US_GAL_CONST, "5.0", "1.050", 2, us, " Kraeusening Volume = 60 US Fl Oz", true},
+      {US_MEASURES, US_GAL_CONST, "5.0", "1.000", 1, us, " Kraeusening Volume = N/A", false},
       {US_MEASURES, US_GAL_CONST, "0.0", "1.050", 1, "Yeast Starter Volume = N/A", " Kraeusening Volume = N/A", false},
-      // 20 liters: 0.5 liters of starter; 5.283 gallons * 0.1 * 0.8 back in liters, 1.6.
       {METRIC_MEASURES, LITER_CONST, "20.0", "1.050", 1, "Yeast Starter Volume = 0.5 Liters",
        " Kraeusening Volume = 1.6 Liters", true},
       {IMPERIAL_MEASURES, IMPERIAL_GAL_CONST, "5.0", "1.050", 0, "Yeast Starter Volume = 15.35 Imp Fl Oz",
-       " Kraeusening Volume = 42.4000000000126 Imp Fl Oz", true},  // unformatted: the conversion pair shows
+       " Kraeusening Volume = 42.4000000000126 Imp Fl Oz", true},
   };
   for (const Case& c : cases) {
     CalcBench cb;

@@ -36,33 +36,23 @@ TEST(ErrorLog, FirstErrorStartsTheLogAndLaterOnesAppend) {
 }
 
 TEST(ErrorLog, MessagesTitlesAndButtonsByNumber) {
-  struct Case {
-    int number;
-    const char* title;
-    const char* text;
-    Buttons buttons;
-    bool ends;
-  };
-  const Case cases[] = {
-      {53, "Terminating", "/p/Reference/Zyth.enc Not Found in frmMain!Form_Load", Buttons::OK, true},
-      {55, "Error", "/p/Reference/Zyth.enc Is Already Open in frmMain!Form_Load at Line 3", Buttons::OK, true},
+  // The file affected is "/p/Z.enc", the line 3.
+  const struct Case { int number; const char *title, *text; Buttons buttons; bool ends; } cases[] = {
+      {53, "Terminating", "/p/Z.enc Not Found in frmMain!Form_Load", Buttons::OK, true},
+      {55, "Error", "/p/Z.enc Is Already Open in frmMain!Form_Load at Line 3", Buttons::OK, true},
       {61, "Error", "The Disk is Full", Buttons::OKCancel, false},
-      {70, "Error", "Permission Denied on File /p/Reference/Zyth.enc", Buttons::OK, false},
+      {70, "Error", "Permission Denied on File /p/Z.enc", Buttons::OK, false},
       {71, "Error", "Disk Drive is Not Ready", Buttons::OKCancel, false},
-      {76, "Error", "Path /p/Reference/Zyth.enc Not Found", Buttons::OKCancel, false},
-      {32009, "Error", "Missing Inventory File /p/Reference/Zyth.enc", Buttons::OK, false},
-      {32010, "Error", "Unknown Inventory Format in /p/Reference/Zyth.enc at Line 3, No Data Loaded", Buttons::OK, false},
-      {32011, "Error", "Corrupted Inventory Record in /p/Reference/Zyth.enc at Line 3, Not Loaded", Buttons::OK, false},
-      {32012, "Error", "Corrupted BatchLog Record(s) in /p/Reference/Zyth.enc, Bad Records Ignored", Buttons::OK, false},
-      {32014, "Error",
-       "Maximum Beer Category Records Reached in /p/Reference/Zyth.enc, Additional Records Ignored", Buttons::OK, false},
-      {32015, "Error", "Corrupted Beer Style Record(s) in /p/Reference/Zyth.enc, Bad Records Ignored", Buttons::OK, false},
-      {32021, "Error",
-       "Corrupted Recipe Item in /p/Reference/Zyth.enc at Line 3, No More Recipe Items Loaded", Buttons::OK, false},
-      {32016, "Error",
-       "Maximum Beer Style Records Reached in /p/Reference/Zyth.enc, Additional Records Ignored", Buttons::OK, false},
-      {32022, "Error",
-       "Corrupted Recipe Comment Record in /p/Reference/Zyth.enc at Line 3, No More Recipe Comments Loaded",
+      {76, "Error", "Path /p/Z.enc Not Found", Buttons::OKCancel, false},
+      {32009, "Error", "Missing Inventory File /p/Z.enc", Buttons::OK, false},
+      {32010, "Error", "Unknown Inventory Format in /p/Z.enc at Line 3, No Data Loaded", Buttons::OK, false},
+      {32011, "Error", "Corrupted Inventory Record in /p/Z.enc at Line 3, Not Loaded", Buttons::OK, false},
+      {32012, "Error", "Corrupted BatchLog Record(s) in /p/Z.enc, Bad Records Ignored", Buttons::OK, false},
+      {32014, "Error", "Maximum Beer Category Records Reached in /p/Z.enc, Additional Records Ignored", Buttons::OK, false},
+      {32015, "Error", "Corrupted Beer Style Record(s) in /p/Z.enc, Bad Records Ignored", Buttons::OK, false},
+      {32021, "Error", "Corrupted Recipe Item in /p/Z.enc at Line 3, No More Recipe Items Loaded", Buttons::OK, false},
+      {32016, "Error", "Maximum Beer Style Records Reached in /p/Z.enc, Additional Records Ignored", Buttons::OK, false},
+      {32022, "Error", "Corrupted Recipe Comment Record in /p/Z.enc at Line 3, No More Recipe Comments Loaded",
        Buttons::OK, false},
       {9, "Terminate Program", "Error #9(Subscript out of range) in frmMain!Form_Load at Line 3", Buttons::OK, true},
   };
@@ -70,7 +60,7 @@ TEST(ErrorLog, MessagesTitlesAndButtonsByNumber) {
     Bench b;
     bool ended = false;
     try {
-      b.wb->errors.reportError(c.number, 3, "frmMain!Form_Load", "/p/Reference/Zyth.enc",
+      b.wb->errors.reportError(c.number, 3, "frmMain!Form_Load", "/p/Z.enc",
                                c.number == 9 ? "Subscript out of range" : "platform text");
     } catch (const Terminated& t) {
       ended = true;

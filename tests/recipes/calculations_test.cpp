@@ -230,11 +230,11 @@ TEST(RecipeCalculations, StyleIndicatorsAtTheirLimits) {
   };
   // Gravities measure their margin from 0.9: the limits of 1.045 to 1.055 are 1.0305 and 1.0705,
   // and "N/A" counts as 0. The others are proportional: 18 is exactly the lower limit of 20, a near miss.
+  // (The limits themselves are pinned with the style deviation; here each flag reads its own value.)
   const struct { TargetIndex target; std::string RecipeSheet::*field; const char *shown, *flag; } cases[] = {
-      {TARGET_OG, &RecipeSheet::lblOG, "1.045", "OK green"},        {TARGET_OG, &RecipeSheet::lblOG, "1.055", "OK green"},
-      {TARGET_OG, &RecipeSheet::lblOG, "1.040", "Low yellow"},      {TARGET_OG, &RecipeSheet::lblOG, "1.030", "Low red"},
-      {TARGET_OG, &RecipeSheet::lblOG, "1.070", "High yellow"},     {TARGET_OG, &RecipeSheet::lblOG, "1.071", "High red"},
-      {TARGET_OG, &RecipeSheet::lblOG, "N/A", "Low red"},           {TARGET_FG, &RecipeSheet::lblFG, "1.009", "Low yellow"},
+      {TARGET_OG, &RecipeSheet::lblOG, "1.055", "OK green"},        {TARGET_OG, &RecipeSheet::lblOG, "1.040", "Low yellow"},
+      {TARGET_OG, &RecipeSheet::lblOG, "1.071", "High red"},        {TARGET_OG, &RecipeSheet::lblOG, "N/A", "Low red"},
+      {TARGET_FG, &RecipeSheet::lblFG, "1.009", "Low yellow"},
       {TARGET_IBU, &RecipeSheet::lblIBU, "18", "Low yellow"},       {TARGET_IBU, &RecipeSheet::lblIBU, "17", "Low red"},
       {TARGET_IBU, &RecipeSheet::lblIBU, "33", "High yellow"},      {TARGET_IBU, &RecipeSheet::lblIBU, "34", "High red"},
       {TARGET_COLOR, &RecipeSheet::lblColor, "9.0", "Low yellow"},  {TARGET_COLOR, &RecipeSheet::lblColor, "22.1", "High red"},
