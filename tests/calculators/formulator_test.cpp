@@ -106,8 +106,7 @@ TEST(MaltFormulator, FixedPercentagesExportToTheRecipe) {
   ASSERT_TRUE(b.f.mnuFileExport());
   const IngredientTable& g = b.cb.editor.sheet.grid;
   const int first = g.headerRow(KIND_MALT) + 1;
-  EXPECT_EQ(g.itemCount(KIND_MALT), 2);
-  EXPECT_EQ(g.cell(first, COL_QTY) + " " + g.cell(first + 1, COL_QTY) + " " + g.cell(first + 1, COL_COST), "7.7 0.85 $1.60");
+  EXPECT_EQ(std::to_string(g.itemCount(KIND_MALT)) + " " + g.cell(first, COL_QTY) + " " + g.cell(first + 1, COL_QTY) + " " + g.cell(first + 1, COL_COST), "2 7.7 0.85 $1.60");
   EXPECT_TRUE(b.cb.editor.recipeChanged() && !b.f.changed);
   EXPECT_EQ(shownLines(b.cb.b.prompter)[0],
             "Advanced Malt Formulator: No Calculations Performed, There are No Changes to Export");
@@ -151,7 +150,7 @@ TEST(NewRecipeFromStyle, OkStartsTheRecipeAndSeedsTheFormulator) {
   d.setStyle(0);
   d.setChoice(NewRecipeDialog::NO_MASH);
   EXPECT_EQ(d.efficiencyText(), "N/A");
-  EXPECT_EQ(d.cmdOK(cb.editor, f), 1);
+  ASSERT_EQ(d.cmdOK(cb.editor, f), 1);
   EXPECT_EQ(cb.editor.txtTitle + "|" + cb.editor.cboBeerStyleText + "|" + cb.editor.lblMashEff,
             "New Dry Stout Recipe|Dry Stout|N/A");
   // The middle of the style's ranges as targets.

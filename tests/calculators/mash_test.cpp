@@ -107,8 +107,7 @@ TEST(MashSchedule, DeletingAsksAndClosingWithChangesAsks) {
   cb.b.prompter.answers = {Answer::Yes, Answer::Cancel, Answer::No};
   m.cmdDelete();
   EXPECT_EQ(entries(m), (Entries{{"60", "152"}}));
-  EXPECT_FALSE(m.queryClose());
-  EXPECT_TRUE(m.queryClose());
+  EXPECT_EQ(std::vector<bool>({m.queryClose(), m.queryClose()}), std::vector<bool>({false, true}));  // Cancel, No
   EXPECT_EQ(cb.wb.recipe.rec.mashStepTime[1], 60);  // No writes nothing
   EXPECT_EQ(shownLines(cb.b.prompter)[1], "Data Changed: Mash Data Changed.  Save to Recipe?");
 }

@@ -40,9 +40,8 @@ TEST(StarterCalculator, ResultsByUnitSystem) {
     s.setVolume(c.volume);
     s.setGravity(c.gravity);
     s.setLevel(c.level);
-    EXPECT_EQ(s.lblYbox, c.starter) << c.volume << " " << c.gravity;
-    EXPECT_EQ(s.lblKbox, c.kraeusen) << c.volume << " " << c.gravity;
-    EXPECT_EQ(s.cmdAddKraeusenEnabled, c.enabled);
+    EXPECT_EQ(s.lblYbox + "|" + s.lblKbox, std::string(c.starter) + "|" + c.kraeusen) << c.volume << " " << c.gravity;
+    EXPECT_EQ(s.cmdAddKraeusenEnabled, c.enabled) << c.volume << " " << c.gravity;
   }
 }
 

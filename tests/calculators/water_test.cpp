@@ -112,9 +112,8 @@ TEST(WaterTreatment, SaltsGiveTheirIonsAsShownAndTotalsSumTheShownCells) {
   EXPECT_EQ(t.grdChemical[6][1] + "|" + t.grdChemical[2][1], "Sodium Chloride (Table Salt)|Calcium Chloride ");
   // 8 g of table salt in 5 gallons: Cl 256, Na 166.4 shown as 166.
   t.setGrams(6, "8");
-  EXPECT_EQ(t.txtTsp[6], "1.5");
+  EXPECT_TRUE(t.txtTsp[6] == "1.5" && t.Changed) << t.txtTsp[6];
   EXPECT_EQ(row(t, WaterTreatment::ROW_TOTALS), (std::vector<std::string>{"", "256", "", "", "166", ""}));
-  EXPECT_TRUE(t.Changed);
   // 1 g of chalk (Ca 21.2) and 1 g of gypsum (Ca 12.4): the total adds the shown 21 and 12.
   t.setGrams(1, "1");
   t.setGrams(3, "1");
