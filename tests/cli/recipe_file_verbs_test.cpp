@@ -32,11 +32,6 @@ const char* const kPorter =
     "<Comments_End>\r\n"
     "<End_Recipe_Format>\r\n";
 
-std::vector<std::string> lines(const std::string& s) {
-  auto v = split(s, '\n');
-  if (!v.empty() && v.back().empty()) v.pop_back();
-  return v;
-}
 
 // Records as another program following the byte layouts would write them.
 std::string recipeBytes(int no, const std::string& name, int items, int comments) {
@@ -72,10 +67,10 @@ TEST(CliList, ImportNumbersDoubledNamesAndTreeShowsThem) {
   EXPECT_EQ(h.run({"import", h.dir.file("porter.zyr")}).out, "2\tRobust Porter (Duplicate)\n");
   const std::string second = "Robust Porter (Duplicate)";
 
-  EXPECT_EQ(lines(h.run({"tree"}).out), (std::vector<std::string>{" Sorted By Name: 2", "  Robust Porter", "  " + second}));
-  EXPECT_EQ(lines(h.run({"tree", "--sort", "1"}).out),
+  EXPECT_EQ(textLines(h.run({"tree"}).out), (std::vector<std::string>{" Sorted By Name: 2", "  Robust Porter", "  " + second}));
+  EXPECT_EQ(textLines(h.run({"tree", "--sort", "1"}).out),
             (std::vector<std::string>{" Sorted By Beer Style: 2", "Porter", "  Robust Porter", "  " + second}));
-  EXPECT_EQ(lines(h.run({"tree", "--sort=3"}).out)[2], "  1998-10-05 - Robust Porter");
+  EXPECT_EQ(textLines(h.run({"tree", "--sort=3"}).out)[2], "  1998-10-05 - Robust Porter");
 
   // The export writes the exchange format; a recipe that is not there is reported, nothing written.
   EXPECT_EQ(h.run({"export", "1", h.dir.file("out.zyr")}).all(), "0||");
@@ -93,7 +88,7 @@ TEST(CliList, ListFileOfEveryRecipeAndBadInput) {
   writeFile(h.dir.file("porter.zyr"), kPorter);
   ASSERT_EQ(h.run({"import", h.dir.file("porter.zyr")}).status, 0);
   ASSERT_EQ(h.run({"new", "Amber"}).status, 0);
-  auto v = lines(h.run({"list"}).out);
+  auto v = textLines(h.run({"list"}).out);
   ASSERT_EQ(v.size(), 6u);
   EXPECT_TRUE(startsWith(v[1], "Date:         "));
   v.erase(v.begin() + 1);
@@ -106,7 +101,7 @@ TEST(CliList, ListFileOfEveryRecipeAndBadInput) {
   writeFile(h.dir.file("junk.zyr"), "hello, world\r\n");
   EXPECT_EQ(h.run({"import", h.dir.file("junk.zyr")}).all(),
             "0|3\tA Beer Recipe\n|[Zythara 2] Not a Recognized Zythara Recipe File\n");
-  EXPECT_EQ(lines(h.run({"scan"}).out).size(), 3u);
+  EXPECT_EQ(textLines(h.run({"scan"}).out).size(), 3u);
 }
 
 TEST(CliList, AnOlderFileWithoutUnitsOpensInTheDefaultUnits) {

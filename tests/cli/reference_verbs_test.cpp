@@ -48,8 +48,7 @@ TEST(ReferenceVerbs, BackupRestoreAndCheckUpdate) {
   EXPECT_EQ(h({"backup"}).status, 0);
   std::vector<std::string> dated;
   for (const auto& e : std::filesystem::directory_iterator(h.dir.file("Backups"))) dated.push_back(e.path().string());
-  ASSERT_EQ(dated.size(), 1u);
-  EXPECT_EQ(std::filesystem::path(dated[0]).filename().string().size(), 10u);  // yyyy-mm-dd
+  ASSERT_TRUE(dated.size() == 1u && std::filesystem::path(dated[0]).filename().string().size() == 10u);  // yyyy-mm-dd
   EXPECT_EQ(readFile(dated[0] + "/ZYRecipe.dat"), recipes);
   EXPECT_NE(readFile(h.dir.file("settings.ini")).find("Backup Path=" + h.dir.file("Backups")), std::string::npos);
 

@@ -104,8 +104,10 @@ std::string readFile(const std::string& path) {
 
 void writeFile(const std::string& path, const std::string& bytes) { std::ofstream(path, std::ios::binary) << bytes; }
 
-std::vector<std::string> readLines(const std::string& path) {
-  std::vector<std::string> lines = split(readFile(path), '\n');
+std::vector<std::string> readLines(const std::string& path) { return textLines(readFile(path)); }
+
+std::vector<std::string> textLines(const std::string& text) {
+  std::vector<std::string> lines = split(text, '\n');
   if (!lines.empty() && lines.back().empty()) lines.pop_back();
   for (auto& l : lines)
     if (!l.empty() && l.back() == '\r') l.pop_back();

@@ -88,6 +88,8 @@ std::vector<std::string> shownLines(const ScriptedPrompter& p);
 std::string readFile(const std::string& path);
 void writeFile(const std::string& path, const std::string& bytes);
 std::vector<std::string> readLines(const std::string& path);
+// The lines of a text, without their line ends (LF or CR LF) and without an empty last line.
+std::vector<std::string> textLines(const std::string& text);
 // Record bytes written by hand, independent of the record code: a little-endian 16-bit number,
 // a little-endian 8-byte double, a text padded with blanks (or cut) to its width.
 std::string le16(int v);
