@@ -184,8 +184,7 @@ TEST(RecipeCalculations, TooBitterMessageOnlyAbove300) {
   Calc d("7.49", "7.49");
   d.hops(4, 25.1, 60);  // 301.2
   d.bitterness();
-  EXPECT_EQ(d.s.lblIBU, "301");  // the message changes nothing
-  ASSERT_EQ(d.tooBitterMessages(), 1u);
+  ASSERT_TRUE(d.s.lblIBU == "301" && d.tooBitterMessages() == 1u) << d.s.lblIBU;  // the message changes nothing
   const ShownMessage& m = d.b.prompter.shown.back();
   EXPECT_EQ(m.text, "Do you actually think anyone\n  will drink a brew this bitter?");
   EXPECT_TRUE(m.icon == Icon::Question && m.buttons == Buttons::OK);
