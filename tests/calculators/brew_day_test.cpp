@@ -63,8 +63,8 @@ TEST(MashSchedule, NewIsLimitedPerModeAndOkStoresDurations) {
   while (m.lvMash.size() < 12) m.cmdNew();
   EXPECT_EQ(m.lvMash[4].temp, "170");  // a new entry starts at the temperature before it
   m.cmdNew();
-  EXPECT_EQ(m.lvMash.size(), 12u);
-  EXPECT_EQ(shownLines(cb.b.prompter).back(), "Mash Information: Limitied to 12 Time/Temp Entries in this Mode");
+  EXPECT_EQ(std::to_string(m.lvMash.size()) + " " + shownLines(cb.b.prompter).back(),
+            "12 Mash Information: Limitied to 12 Time/Temp Entries in this Mode");
 
   // Back to five points; OK in the time-line mode stores holds, and clears the slots behind.
   m.lvMash.resize(5);

@@ -295,8 +295,8 @@ TEST(RecipeExchange, FieldStreamReadsQuotesAndLineEnds) {
 }
 
 TEST(RecipeExchange, FileNameHelpers) {
-  EXPECT_EQ(safeFileName("  My \"Best\" Ale: v1/2 | 'x' \\ ", true), "My_-Best-_Ale-_v1-2_-_-x-_-");
-  EXPECT_EQ(safeFileName(" Pale Ale ", false), "Pale Ale");
+  EXPECT_EQ(safeFileName("  My \"Best\" Ale: v1/2 | 'x' \\ ", true) + "|" + safeFileName(" Pale Ale ", false),
+            "My_-Best-_Ale-_v1-2_-_-x-_-|Pale Ale");
   const std::pair<const char*, const char*> shortNames[] = {
       {"Amber Ale", "ambral"}, {"Oatmeal Stout", "oatmlstt"}, {"Club -- Irish Red Ale", "irshrdal"},
       {"Eisbock", "eisbck"},   {"...  ---", "beer"},          {"", "beer"},
