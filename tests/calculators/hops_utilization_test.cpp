@@ -98,6 +98,7 @@ std::string curveText(const HopsUtilizationEditor& e) {
   return s;
 }
 
+// The editor opened on the Rager defaults.
 HopsUtilizationEditor openedOnDefaults() {
   HopsUtilizationEditor e;
   e.load(HopsUtilization{});

@@ -13,8 +13,7 @@
 namespace zy {
 namespace {
 
-using test::Bench;
-using test::readFile;
+using namespace test;
 
 struct Stored {
   std::string name;

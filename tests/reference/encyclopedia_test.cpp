@@ -298,9 +298,8 @@ TEST(ReferenceBrowser, AlsoSeeListsMatchingTopicsAndStaysWhileWalkingIt) {
 
   // Walking through the list leaves it in place; Hops has an entry of its own pending.
   br.selectNode({TreeAlsoSee, 0, -1});
-  EXPECT_EQ(br.lblTitle, "Hops");
   EXPECT_EQ(l.texts(TreeAlsoSee), (Texts{"Hops", "Cooling"}));
-  EXPECT_EQ(alsoSee(), "* A&lso See|Boiling the Wort|back");
+  EXPECT_EQ(br.lblTitle + "|" + alsoSee(), "Hops|* A&lso See|Boiling the Wort|back");
   EXPECT_EQ(l.texts(TreeHistory), (Texts{"Hops", "Boiling the Wort"}));
 
   // A search in between puts the store back where it was, so the refresh still reads Hops' list.
@@ -320,13 +319,12 @@ TEST(ReferenceBrowser, AlsoSeeListsMatchingTopicsAndStaysWhileWalkingIt) {
 
   // Only titles that match nothing: an empty list under a marked tab.
   br.selectNode({TreeAllTopics, 1, -1});
-  EXPECT_TRUE(br.trees[TreeAlsoSee].empty());
-  EXPECT_EQ(alsoSee(), "* A&lso See|Cooling|-");
+  EXPECT_EQ(alsoSee() + "|" + std::to_string(br.trees[TreeAlsoSee].size()), "* A&lso See|Cooling|-|0");
 
   // No entries at all: the tab unmarked, the list and its label emptied.
   br.selectNode({TreeAllTopics, 3, -1});
-  EXPECT_TRUE(br.trees[TreeAlsoSee].empty());
-  EXPECT_EQ(alsoSee() + std::to_string(br.lblAlsoSeeTopicTag), "  A&lso See||-0");
+  EXPECT_EQ(alsoSee() + "|" + std::to_string(br.trees[TreeAlsoSee].size()) + "|" + std::to_string(br.lblAlsoSeeTopicTag),
+            "  A&lso See||-|0|0");
 }
 
 TEST(ReferenceBrowser, SearchReadsTitlesThenTheTextBehindTheBodyLength) {

@@ -5,7 +5,6 @@
 #include <filesystem>
 #include <functional>
 #include <initializer_list>
-#include <memory>
 
 #include "core/paths.h"
 #include "core/text.h"
