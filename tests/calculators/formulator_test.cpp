@@ -106,7 +106,9 @@ TEST(MaltFormulator, FixedPercentagesExportToTheRecipe) {
   ASSERT_TRUE(b.f.mnuFileExport());
   const IngredientTable& g = b.cb.editor.sheet.grid;
   const int first = g.headerRow(KIND_MALT) + 1;
-  EXPECT_EQ(std::to_string(g.itemCount(KIND_MALT)) + " " + g.cell(first, COL_QTY) + " " + g.cell(first + 1, COL_QTY) + " " + g.cell(first + 1, COL_COST), "2 7.7 0.85 $1.60");
+  EXPECT_EQ(std::to_string(g.itemCount(KIND_MALT)) + " " + g.cell(first, COL_QTY) + " " + g.cell(first + 1, COL_QTY) + " " +
+                g.cell(first + 1, COL_COST),
+            "2 7.7 0.85 $1.60");
   EXPECT_TRUE(b.cb.editor.recipeChanged() && !b.f.changed);
   EXPECT_EQ(shownLines(b.cb.b.prompter)[0],
             "Advanced Malt Formulator: No Calculations Performed, There are No Changes to Export");

@@ -153,9 +153,9 @@ TEST(CliStore, ScanAndDumpFilesOfAnotherWriter) {
             (std::vector<std::string>{"controlStart=200", "recipeNo=1", "recipeType=1", "unitType=0", "itemCount=2",
                                       "recipeName=Robust Porter", "beerStyle=Porter", "boilVolume=3.5",
                                       "fermentVolume=5.25"}));
-  for (const char* l : {"mashStepTemp[0]=152", "mashStepComment[0]=Sacch rest", "mashStepComment[12]=", "agingUnits=-1", "agingTemp=-9999", "originalGravity=1.052",
-                        "item[0].itemName=Pale Malt", "item[1].itemName=Fuggle", "item[1].mashFlag=-1",
-                        "item[1].rating=1.036"})
+  for (const char* l : {"mashStepTemp[0]=152", "mashStepComment[0]=Sacch rest", "mashStepComment[12]=", "agingUnits=-1",
+                        "agingTemp=-9999", "originalGravity=1.052", "item[0].itemName=Pale Malt",
+                        "item[1].itemName=Fuggle", "item[1].mashFlag=-1", "item[1].rating=1.036"})
     EXPECT_TRUE(has(l)) << l;
   EXPECT_FALSE(has("item[2].itemName=Munich"));
   EXPECT_EQ(lines[lines.size() - 2], "comment=" + std::string(118, 'a') + "\\nend");

@@ -227,9 +227,9 @@ TEST(Properties, FilledFromTheDefaultsWithTheirFormats) {
   EXPECT_EQ(texts(m, {"txtMashEfficiency", "txtInitialBoilVolume", "txtFermentVolume", "txtMaltDef(0)", "txtMaltDef(2)",
                       "txtMaltDef(3)", "txtHopsDef(3)", "txtYeastDef(3)", "txtMashPerLb", "txtThreshold"}),
             (std::vector<std::string>{"80", "3.5", "5.0", "Malt", "$1.00", "1.032", "5.5", "72.", "0.40", "25"}));
-  EXPECT_EQ(m.combo("cboOtherUnits"), 5);
-  EXPECT_EQ(m.comboText("cboOtherUnits") + "|" + m.comboText("cboPosition(3)") + "|" + m.comboText("cboFontSize(0)"),
-            "Tsp|Bottom|24");
+  EXPECT_EQ(std::to_string(m.combo("cboOtherUnits")) + " " + m.comboText("cboOtherUnits") + "|" +
+                m.comboText("cboPosition(3)") + "|" + m.comboText("cboFontSize(0)"),
+            "5 Tsp|Bottom|24");
   EXPECT_EQ(m.check("chkTitleText") + m.check("chkUnixNames"), 2);
 }
 

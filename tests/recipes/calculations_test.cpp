@@ -217,7 +217,8 @@ TEST(RecipeCalculations, StyleIndicatorsAtTheirLimits) {
   // Without a style every flag reads "N/A" with no colour, and Details is off.
   c.s.lblOG = "1.040";
   updateStyleFlags(c.wb, c.s);
-  for (const TargetLabel& t : c.s.targets) EXPECT_EQ(t.text + targetColourWord(t.colour), std::string("N/A") + targetColourWord(TargetColour::None));
+  for (const TargetLabel& t : c.s.targets)
+    EXPECT_EQ(t.text + targetColourWord(t.colour), std::string("N/A") + targetColourWord(TargetColour::None));
   EXPECT_FALSE(c.s.cmdDetailsEnabled);
 
   c.wb.styles.CurrentStyleIndex = 0;

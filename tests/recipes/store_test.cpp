@@ -252,14 +252,12 @@ TEST_F(StoreTest, CorruptedRecordsStopTheOperationWithTheirErrors) {
 
 TEST_F(StoreTest, PartialTrailingRecordIsNotReadAndMissingFilesAreCreated) {
   int count = 0;
-  EXPECT_TRUE(scanRecipes(wb, [&](long, const RecipeRecord&) { ++count; }));
-  EXPECT_EQ(count, 0);
-  EXPECT_TRUE(fileExists(recipes));
+  auto counted = [&] { return scanRecipes(wb, [&](long, const RecipeRecord&) { ++count; }); };
+  EXPECT_TRUE(counted() && count == 0 && fileExists(recipes));
   save(1, {});
-  std::string all = readFile(recipes);
+  const std::string all = readFile(recipes);
   writeFile(recipes, all + all.substr(0, 700));
-  EXPECT_TRUE(scanRecipes(wb, [&](long, const RecipeRecord&) { ++count; }));
-  EXPECT_EQ(count, 1);
+  EXPECT_TRUE(counted() && count == 1) << count;
   EXPECT_EQ(findNextRecipeSlot(wb), 2);
 }
 

@@ -66,8 +66,7 @@ TEST(Backup, ADayIsBackedUpOnceAndOverwrittenOnlyOnRequest) {
   EXPECT_EQ(shownLines(b.prompter),
             (std::vector<std::string>{done, "Backup Zythara Databases: Backup files already exist in this folder.  Overwrite them?",
                                       "Backup Zythara Databases: Zythara Database Backup Canceled"}));
-  EXPECT_EQ(b.prompter.shown[1].buttons, Buttons::YesNo);
-  EXPECT_EQ(readFile(dated + "/ZYRecipe.dat"), "recipes v1");
+  EXPECT_TRUE(b.prompter.shown[1].buttons == Buttons::YesNo && readFile(dated + "/ZYRecipe.dat") == "recipes v1");
 
   b.prompter.answers = {Answer::Yes};
   EXPECT_EQ(backupAllDatabases(wb, confirm(asked)), BackupOutcome::Done);

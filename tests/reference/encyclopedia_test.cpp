@@ -463,7 +463,8 @@ TEST(ShippedTopics, EveryTopicShowsItsTitleBodyPicturesAndAlsoSee) {
     EXPECT_GT(r.body.size(), 1200u) << name;
     EXPECT_NE(br.page.find("<P>"), std::string::npos) << name;
     for (const TopicImage& img : r.images)
-      EXPECT_TRUE(std::filesystem::is_regular_file(std::filesystem::path(b.wb->folder.referenceFolder()) / img.file)) << name << ": " << img.file;
+      EXPECT_TRUE(std::filesystem::is_regular_file(std::filesystem::path(b.wb->folder.referenceFolder()) / img.file))
+          << name << ": " << img.file;
     EXPECT_FALSE(r.alsoSee.empty()) << name;
     EXPECT_EQ(br.trees[TreeAlsoSee].size(), r.alsoSee.size()) << name << ": an also-see title matches no topic";
   }
