@@ -1,6 +1,8 @@
 # Two commands do all set-up: `make run` and `make test`.
 BUILD ?= build
 JOBS ?= $(shell nproc)
+# ccache speeds up rebuilds where it is installed; the build does not need it.
+LAUNCHER := $(if $(shell command -v ccache),-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
 
 .PHONY: all deps configure build run test bench clean fuzz fuzz-deps sanitize
 
@@ -10,7 +12,7 @@ deps:
 	./scripts/setup-deps.sh
 
 configure: deps
-	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=Release
+	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=Release $(LAUNCHER)
 
 build: configure
 	cmake --build $(BUILD) -j$(JOBS)

@@ -6,6 +6,7 @@
 #include "core/measures.h"
 #include "core/numfmt.h"
 #include "core/text.h"
+#include "inventory/InventoryStore.h"
 #include "recipes/RecipeEditor.h"
 #include "workbench/Workbench.h"
 
@@ -108,6 +109,12 @@ void MaltFormulator::addMalt(const std::string& name, double quantity, int unit,
   lvMalts.push_back(m);
   computeTotalPct();
   maltsChanged();
+}
+
+bool MaltFormulator::addInventoryMalt(int category, const InventoryItem& item) {
+  if (category != INV_MALT || trim(item.name).empty()) return false;
+  addMalt(item.name, 0.0, item.units, item.cost, item.color, item.extract, item.mash != 0, 0.0);
+  return true;
 }
 
 void MaltFormulator::deleteMalt(int row) {

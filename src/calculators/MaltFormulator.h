@@ -10,6 +10,7 @@ namespace zy {
 
 class RecipeEditor;
 class Workbench;
+struct InventoryItem;
 
 // One row of lvMalts. Numbers are kept as the list shows them.
 struct FormulatorMalt {
@@ -50,6 +51,9 @@ class MaltFormulator {
   void setVolume();
   void addMalt(const std::string& name, double quantity, int unit, double cost, double color, double extraction,
                bool mash, double percent);
+  // A malt chosen in the inventory: its name, unit, cost, colour, extraction and mash flag, no
+  // quantity and no percent yet. Other kinds of stock are not malts and are left out (false).
+  bool addInventoryMalt(int category, const InventoryItem& item);
   // Asks, then removes the selected row.
   void deleteMalt(int row);
   void setTargetPct(int row, const std::string& text);

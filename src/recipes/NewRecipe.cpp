@@ -4,6 +4,7 @@
 #include "core/measures.h"
 #include "core/numfmt.h"
 #include "core/text.h"
+#include "inventory/InventoryStore.h"
 #include "recipes/RecipeEditor.h"
 #include "workbench/Workbench.h"
 
@@ -73,9 +74,22 @@ std::vector<std::pair<int, double>> NewRecipeDialog::grainBill() const {
   }
 }
 
-long NewRecipeDialog::cmdOK(RecipeEditor& editor, MaltFormulator& formulator, const FindInvItem& findInvItem) {
+FindInvItem inventoryMaltFinder(const Inventory& inventory) {
+  return [&inventory](double from, double to, bool mash, const std::string&) -> std::optional<InventoryMalt> {
+    const InventoryList& malts = inventory.list(INV_MALT);
+    for (const InventoryRow& row : malts.rows) {
+      const InventoryItem item = inventoryItemFromRow(INV_MALT, row);
+      if (item.color >= from && item.color <= to && (item.mash != 0) == mash)
+        return InventoryMalt{trim(item.name), item.cost, item.color, item.extract};
+    }
+    return std::nullopt;
+  };
+}
+
+long NewRecipeDialog::cmdOK(RecipeEditor& editor, MaltFormulator& formulator, const FindInvItem& findInvItem,
+                            const RecipeOpenHooks* hooks) {
   // 1. A new recipe, shown in the editor.
-  const long slot = wb_.recipeList.mnuFileNew_Click(wb_);
+  const long slot = hooks ? wb_.recipeList.newRecipe(wb_, *hooks) : wb_.recipeList.mnuFileNew_Click(wb_);
   if (slot < 1) return 0;
   RecipeRecord& rec = wb_.recipe.rec;
   // 3. Mash type and efficiency (before the editor shows the record).

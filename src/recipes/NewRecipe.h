@@ -11,6 +11,8 @@
 namespace zy {
 
 class MaltFormulator;
+struct Inventory;
+struct RecipeOpenHooks;
 class RecipeEditor;
 class Workbench;
 
@@ -31,11 +33,13 @@ struct InventoryMalt {
   std::string name;
   double cost = 0, color = 0, extraction = 0;
 };
-// The inventory's look-up: the first malt in the colour range with the mash flag. The inventory
-// is not kept yet, so the program's look-up finds nothing and every row is a preset.
+// The inventory's look-up: the first malt in the colour range with the mash flag.
 using FindInvItem = std::function<std::optional<InventoryMalt>(double colorFrom, double colorTo, bool mash,
                                                                const std::string& name)>;
 std::optional<InventoryMalt> noInventory(double, double, bool, const std::string&);
+// The look-up over the inventory's malt list, in the order the list holds: the first malt whose
+// colour lies in the range (ends included) and whose mash flag is the one asked for.
+FindInvItem inventoryMaltFinder(const Inventory& inventory);
 
 class NewRecipeDialog {
  public:
@@ -59,8 +63,10 @@ class NewRecipeDialog {
 
   // OK: a new recipe in the editor titled after the style, its mash type and efficiency, the
   // formulator opened on the bill with the style's midpoints as targets. Returns the new recipe's
-  // record number (0 when no slot was free).
-  long cmdOK(RecipeEditor& editor, MaltFormulator& formulator, const FindInvItem& findInvItem = noInventory);
+  // record number (0 when no slot was free). With the editor's hooks, a changed recipe in the
+  // editor is first offered for saving, and "Cancel" ends the action with 0.
+  long cmdOK(RecipeEditor& editor, MaltFormulator& formulator, const FindInvItem& findInvItem = noInventory,
+             const RecipeOpenHooks* hooks = nullptr);
 
   std::string lblStyle;  // the style's name
   double ogLow = 0, ogHigh = 0, srmLow = 0, srmHigh = 0;

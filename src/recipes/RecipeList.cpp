@@ -578,6 +578,14 @@ bool RecipeList::mnuFileDelete_Click(Workbench& wb) {
   Answer a = wb.prompter.message("Do you want to Delete the \"" + n->text + "\" Recipe?", "Recipe Delete",
                                  Icon::Question, Buttons::YesNo, Answer::Yes);
   if (a != Answer::Yes) return false;
+  // A recipe's batch logs are deleted with it (deleteRecipe frees them); say so first.
+  if (const long logs = countBatchLogs(wb, static_cast<int>(recipeNumber(n->key))); logs > 0) {
+    const std::string what = logs == 1 ? "1 Batch Log" : itos(logs) + " Batch Logs";
+    if (wb.prompter.message("The \"" + n->tag + "\" Recipe has " + what + ", which will be Deleted with it." +
+                                " Delete the Recipe and its Batch Logs?",
+                            "Recipe Delete", Icon::Question, Buttons::YesNo, Answer::No) != Answer::Yes)
+      return false;
+  }
   const std::string key = n->key;
   deleteRecipe(wb, recipeNumber(key));
   tree.remove(key);

@@ -170,7 +170,8 @@ class RecipeList {
   // node and true is returned; otherwise "Recipe Not Found: " + part is shown (title "Find
   // Recipe") and the selection stays.
   bool findRecipe(Workbench& wb, const std::string& part);
-  // Delete of the selected leaf, after the question. True when deleted.
+  // Delete of the selected leaf, after the question (and a second one naming the batch logs that
+  // go with the recipe, when it has any). True when deleted.
   bool mnuFileDelete_Click(Workbench& wb);
 
   // Import of a recipe exchange file (the file dialog's answer given as `path`): reader, slot,

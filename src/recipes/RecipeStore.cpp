@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "batchlog/BatchLogStore.h"
 #include "core/dates.h"
 #include "core/records.h"
 #include "core/text.h"
@@ -268,6 +269,9 @@ bool deleteRecipe(Workbench& wb, long recipeNo) {
     wb.errors.reportFileError(e, line, kDeleteFn);
     return false;
   }
+  // The recipe's batch logs go with it, so that a later recipe taking this record number starts
+  // with a log of its own and never inherits another recipe's brews.
+  freeBatchLogsOf(wb, static_cast<int>(recipeNo));
   return true;
 }
 

@@ -33,7 +33,8 @@ bool saveCurrentRecipe(Workbench& wb);
 // stopped it (the error has been reported).
 bool loadRecipe(Workbench& wb, long recipeNo);
 
-// Frees a recipe's record, items and comment pieces (recipeNo 0). Nothing is removed from a file.
+// Frees a recipe's record, items and comment pieces (recipeNo 0), and its batch logs with them.
+// Nothing is removed from a file.
 bool deleteRecipe(Workbench& wb, long recipeNo);
 
 // Reads ZYRecipe.dat from record 1; calls `visit` for each record with recipeNo above 0. A

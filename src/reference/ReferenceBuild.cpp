@@ -99,6 +99,20 @@ bool writeWhole(const std::string& path, const std::string& bytes) {
   return static_cast<bool>(f);
 }
 
+// The first of the folders that holds the picture; empty when none does.
+fs::path findPicture(const std::vector<std::string>& dirs, const std::string& file) {
+  std::error_code ec;
+  for (const std::string& d : dirs)
+    if (fs::is_regular_file(fs::path(d) / file, ec)) return fs::path(d) / file;
+  return {};
+}
+
+std::string inFolders(const std::vector<std::string>& dirs) {
+  std::string s;
+  for (const std::string& d : dirs) s += (s.empty() ? "" : " or ") + d;
+  return s;
+}
+
 std::string readWhole(const std::string& path) {
   std::ifstream f(path, std::ios::binary);
   std::stringstream ss;
@@ -162,7 +176,7 @@ BookSource parseBookSource(const std::string& sourceFile, const std::string& tex
 }
 
 BuildReport buildReference(std::vector<TopicSource> topics, std::vector<BookSource> books, const std::string& outDir,
-                           const std::string& imageDir, BuildChecks checks) {
+                           const std::vector<std::string>& imageDirs, BuildChecks checks) {
   BuildReport report;
   const bool strict = checks == BuildChecks::Strict;
   std::vector<std::string>& brokenLinks = strict ? report.errors : report.warnings;
@@ -210,11 +224,12 @@ BuildReport buildReference(std::vector<TopicSource> topics, std::vector<BookSour
 
   // A picture that is not there would show as a broken image.
   std::error_code ec;
-  if (strict && !imageDir.empty())
+  if (strict && !imageDirs.empty())
     for (const TopicSource& t : topics)
       for (const TopicImage& img : t.images)
-        if (!img.file.empty() && !fs::is_regular_file(fs::path(imageDir) / img.file, ec))
-          report.errors.push_back(t.sourceFile + ": the picture \"" + utf8(img.file) + "\" is not in " + imageDir);
+        if (!img.file.empty() && findPicture(imageDirs, img.file).empty())
+          report.errors.push_back(t.sourceFile + ": the picture \"" + utf8(img.file) + "\" is not in " +
+                                  inFolders(imageDirs));
 
   // Books.
   if (books.size() > kMaxBooks)
@@ -295,10 +310,11 @@ BuildReport buildReference(std::vector<TopicSource> topics, std::vector<BookSour
   std::set<std::string> copied;
   for (const TopicSource& t : topics) {
     for (const TopicImage& img : t.images) {
-      if (imageDir.empty() || !copied.insert(img.file).second) continue;
-      fs::path from = fs::path(imageDir) / img.file;
-      if (!fs::is_regular_file(from, ec)) {
-        report.warnings.push_back(t.sourceFile + ": the picture \"" + utf8(img.file) + "\" is not in " + imageDir);
+      if (imageDirs.empty() || !copied.insert(img.file).second) continue;
+      fs::path from = findPicture(imageDirs, img.file);
+      if (from.empty()) {
+        report.warnings.push_back(t.sourceFile + ": the picture \"" + utf8(img.file) + "\" is not in " +
+                                  inFolders(imageDirs));
         continue;
       }
       fs::copy_file(from, fs::path(outDir) / img.file, fs::copy_options::overwrite_existing, ec);
@@ -323,7 +339,8 @@ BuildReport buildReference(std::vector<TopicSource> topics, std::vector<BookSour
   return report;
 }
 
-BuildReport buildReferenceFromFolder(const std::string& sourceDir, const std::string& outDir) {
+BuildReport buildReferenceFromFolder(const std::string& sourceDir, const std::string& outDir,
+                                     const std::vector<std::string>& pictureDirs) {
   BuildReport report;
   auto listTexts = [&](const std::string& sub) {
     std::vector<std::string> files;
@@ -341,8 +358,9 @@ BuildReport buildReferenceFromFolder(const std::string& sourceDir, const std::st
   for (const std::string& f : listTexts("books")) books.push_back(parseBookSource(f, readWhole(f), report));
   if (topics.empty()) report.errors.push_back(sourceDir + "/topics: no topic sources (*.txt)");
   if (!report.ok()) return report;
-  BuildReport built = buildReference(std::move(topics), std::move(books), outDir,
-                                     (fs::path(sourceDir) / "images").string(), BuildChecks::Strict);
+  std::vector<std::string> imageDirs{(fs::path(sourceDir) / "images").string()};
+  imageDirs.insert(imageDirs.end(), pictureDirs.begin(), pictureDirs.end());
+  BuildReport built = buildReference(std::move(topics), std::move(books), outDir, imageDirs, BuildChecks::Strict);
   built.warnings.insert(built.warnings.begin(), report.warnings.begin(), report.warnings.end());
   return built;
 }

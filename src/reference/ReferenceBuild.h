@@ -69,16 +69,19 @@ BookSource parseBookSource(const std::string& sourceFile, const std::string& tex
 enum class BuildChecks { Lenient, Strict };
 
 // Checks everything and, when no error was found, writes the three files into `outDir`
-// (created when missing). `imageDir`, when given, is where pictures are taken from: each picture
-// named by a topic is copied into `outDir`; a missing one is a warning (an error when Strict).
-// Strict also refuses an also-see title that matches no index title and a title that differs
-// from its index title, so that the page heading and the topic list agree.
+// (created when missing). `imageDirs`, when given, are where pictures are taken from, the first
+// folder that holds a picture winning: each picture named by a topic is copied into `outDir`; a
+// missing one is a warning (an error when Strict). Strict also refuses an also-see title that
+// matches no index title and a title that differs from its index title, so that the page heading
+// and the topic list agree.
 BuildReport buildReference(std::vector<TopicSource> topics, std::vector<BookSource> books,
-                           const std::string& outDir, const std::string& imageDir = {},
+                           const std::string& outDir, const std::vector<std::string>& imageDirs = {},
                            BuildChecks checks = BuildChecks::Lenient);
 
-// Reads sourceDir/topics/*.txt and sourceDir/books/*.txt, pictures from sourceDir/images, and
-// builds as above, strictly: this is what the program ships.
-BuildReport buildReferenceFromFolder(const std::string& sourceDir, const std::string& outDir);
+// Reads sourceDir/topics/*.txt and sourceDir/books/*.txt, pictures from sourceDir/images and then
+// from each of `pictureDirs` (those drawn at build time), and builds as above, strictly: this is
+// what the program ships.
+BuildReport buildReferenceFromFolder(const std::string& sourceDir, const std::string& outDir,
+                                     const std::vector<std::string>& pictureDirs = {});
 
 }  // namespace zy

@@ -1,20 +1,35 @@
 #include "ui/ProgramWindows.h"
 
 #include <QEvent>
+#include <QInputDialog>
 
 #include "ui/dlgFilterBeerStyles.h"
+#include "ui/dlgNewRecipe.h"
+#include "ui/frmAdvMaltFormulator.h"
+#include "ui/frmMash.h"
+#include "ui/frmStarter.h"
+#include "ui/frmWaterMgmt.h"
+#include "ui/frmWaterTreatment.h"
 #include "ui/dlgScale.h"
 #include "ui/frmBeerStyles.h"
 #include "ui/frmHopsUtilization.h"
 #include "ui/frmStyleMatch.h"
 #include "ui/frmUnitMashData.h"
+#include "ui/frmBatchLogList.h"
 #include "ui/frmComments.h"
 #include "ui/frmFermentation.h"
 #include "ui/frmHelp.h"
+#include "ui/frmInvCheck.h"
+#include "ui/frmInventory.h"
+#include "ui/frmShoppingLst.h"
+#include "inventory/InventoryStartup.h"
 #include "ui/frmMain.h"
 #include "ui/frmProperties.h"
+#include "ui/frmRecReader.h"
 #include "ui/frmRecipe.h"
 #include "ui/frmRecipeList.h"
+#include "ui/QtPrompter.h"
+#include "core/text.h"
 
 namespace zy {
 
@@ -30,6 +45,8 @@ void bringForward(QWidget& w) {
 ProgramWindows::ProgramWindows(Workbench& wb, frmMain& main) : wb_(wb), main_(main) {
   main.setChildOpener(frmMain::Child::RecipeList, [this] { showRecipeList(); });
   main.setChildOpener(frmMain::Child::BeerStyles, [this] { showBeerStyles(); });
+  main.setChildOpener(frmMain::Child::Inventory, [this] { showInventory(false); });
+  main.setChildOpener(frmMain::Child::ShoppingList, [this] { showShoppingList(); });
   main.installEventFilter(this);
 }
 
@@ -37,6 +54,9 @@ ProgramWindows::~ProgramWindows() {
   // The editor's window takes its companions with it; the list forgets the tree's refresh.
   beerStyles_.reset();
   hopsUtilization_.reset();
+  invCheck_.reset();
+  inventory_.reset();
+  shoppingList_.reset();
   recipe_.reset();
   recipeList_.reset();
 }
@@ -62,6 +82,7 @@ frmRecipe& ProgramWindows::recipe() {
     r.openScale = [this] { openScale(); };
     r.openFermentation = [this] { showFermentation(); };
     r.openComments = [this] { showComments(); };
+    r.setToolOpener(RecipeTool::RecipeReader, [this] { showRecReader(); });
     r.openProperties = [this] { openProperties(recipe_.get()); };
     r.showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
     r.showHelp = [this](int where) { main_.showHelp(where); };
@@ -69,21 +90,35 @@ frmRecipe& ProgramWindows::recipe() {
     r.setToolOpener(RecipeTool::UnitMashData, [this] { showUnitMashData(); });
     r.setToolOpener(RecipeTool::StyleMatch, [this] { showStyleMatch(); });
     r.setToolOpener(RecipeTool::StyleFilter, [this] { openStyleFilter(); });
+    r.setToolOpener(RecipeTool::WaterMgmt, [this] { showCalculator(waterMgmt()); });
+    r.setToolOpener(RecipeTool::WaterTreatment, [this] { showCalculator(waterTreatment()); });
+    r.setToolOpener(RecipeTool::MashInfo, [this] { showCalculator(mash()); });
+    r.setToolOpener(RecipeTool::MaltFormulator, [this] { showCalculator(maltFormulator()); });
+    r.setToolOpener(RecipeTool::Starter, [this] { showCalculator(starter()); });
     r.setToolOpener(RecipeTool::BeerStyles, [this] {
       showBeerStyles(recipe_->editor().cboBeerStyleText);
     });
+    r.setToolOpener(RecipeTool::BatchLog, [this] { showBatchLogList(); });
     // A change in the fermentation window shows on the editor's save button.
     FermentationForm& f = r.editor().fermentation;
     f.onChanged = [&r] {
       r.editor().recChanged();
       r.refreshSaveButton();
     };
+    r.setToolOpener(RecipeTool::InventoryLists, [this] { showInventory(false); });
+    r.setToolOpener(RecipeTool::FromInventory, [this] { showInventory(true); });
+    r.setToolOpener(RecipeTool::ShopListAdd, [this] { addRecipeToShoppingList(); });
+    r.setToolOpener(RecipeTool::ShopListCheck, [this] { showInvCheck(); });
+    r.setToolOpener(RecipeTool::ShopListDisplay, [this] { showShoppingList(); });
     // The companions close with the editor.
     connect(&r, &frmRecipe::closed, this, [this] {
       if (fermentation_) fermentation_->close();
       if (comments_) comments_->close();
+      if (recReader_) recReader_->close();
       if (styleMatch_) styleMatch_->close();
       if (unitMashData_) unitMashData_->close();
+      if (batchLogList_) batchLogList_->close();
+      closeCalculators();
     });
   }
   return *recipe_;
@@ -112,6 +147,20 @@ frmComments& ProgramWindows::comments() {
     comments_->showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
   }
   return *comments_;
+}
+
+frmRecReader& ProgramWindows::recReader() {
+  if (!recReader_) {
+    recReader_ = new frmRecReader(wb_, recipe().editor(), &recipe());
+    // The editor and its companions show what was read; the reader stays in front.
+    recReader_->extracted = [this] {
+      recipe().refreshFromModel();
+      if (fermentation_) fermentation_->refreshFromModel();
+      if (comments_) comments_->refreshFromModel();
+    };
+    recReader_->showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
+  }
+  return *recReader_;
 }
 
 frmHopsUtilization& ProgramWindows::hopsUtilization() {
@@ -153,6 +202,7 @@ frmBeerStyles& ProgramWindows::beerStyles() {
       if (!recipe_ || !recipe_->isVisible()) return std::nullopt;
       return recipe_->editor().styleValues();
     };
+    b.newRecipe = [this](int row) { openNewRecipe(row); };
     // A changed style table: the editor's list is rebuilt and keeps the recipe's style.
     b.stylesChanged = [this] {
       if (!recipe_) return;
@@ -161,6 +211,103 @@ frmBeerStyles& ProgramWindows::beerStyles() {
     };
   }
   return *beerStyles_;
+}
+
+frmWaterMgmt& ProgramWindows::waterMgmt() {
+  if (!waterMgmt_) {
+    waterMgmt_ = new frmWaterMgmt(wb_, recipe().editor(), &recipe());
+    waterMgmt_->applied = [this] { recipeChangedByTool(); };
+    waterMgmt_->openHelp = [this](const QString& page) { showHelpTopic(page); };
+  }
+  return *waterMgmt_;
+}
+
+frmWaterTreatment& ProgramWindows::waterTreatment() {
+  if (!waterTreatment_) {
+    waterTreatment_ = new frmWaterTreatment(wb_, recipe().editor(), &recipe());
+    waterTreatment_->applied = [this] { recipeChangedByTool(); };
+    waterTreatment_->openHelp = [this](const QString& page) { showHelpTopic(page); };
+  }
+  return *waterTreatment_;
+}
+
+frmMash& ProgramWindows::mash() {
+  if (!mash_) {
+    mash_ = new frmMash(wb_, recipe().editor(), &recipe());
+    mash_->applied = [this] { recipeChangedByTool(); };
+    mash_->openHelp = [this](const QString& page) { showHelpTopic(page); };
+    mash_->openUnitMashData = [this] { showUnitMashData(); };
+  }
+  return *mash_;
+}
+
+frmAdvMaltFormulator& ProgramWindows::maltFormulator() {
+  if (!maltFormulator_) {
+    maltFormulator_ = new frmAdvMaltFormulator(wb_, recipe().editor(), &recipe());
+    maltFormulator_->applied = [this] { recipeChangedByTool(); };
+    maltFormulator_->openHelp = [this](const QString& page) { showHelpTopic(page); };
+    // Malts come from the inventory's malt list, picked by name.
+    maltFormulator_->setAddFromInventory([this](MaltFormulator& m) {
+      const InventoryList& malts = wb_.inventory.list(INV_MALT);
+      if (malts.empty()) {
+        wb_.prompter.message("There are no malts in the inventory", "Add To Recipe", Icon::Information, Buttons::OK);
+        return;
+      }
+      QStringList names;
+      for (const InventoryRow& row : malts.rows) names << qs(trim(row.cells.empty() ? std::string() : row.cells[0]));
+      bool ok = false;
+      const QString chosen =
+          QInputDialog::getItem(maltFormulator_, "Add To Recipe", "Malt from the inventory:", names, 0, false, &ok);
+      const qsizetype at = names.indexOf(chosen);
+      if (ok && at >= 0) m.addInventoryMalt(INV_MALT, inventoryItemFromRow(INV_MALT, malts.rows[static_cast<size_t>(at)]));
+    });
+  }
+  return *maltFormulator_;
+}
+
+frmStarter& ProgramWindows::starter() {
+  if (!starter_) {
+    starter_ = new frmStarter(wb_, recipe().editor(), &recipe());
+    starter_->applied = [this] { recipeChangedByTool(); };
+    starter_->openHelp = [this](const QString& page) { showHelpTopic(page); };
+  }
+  return *starter_;
+}
+
+// A hidden calculator fills itself from the recipe as it shows; one already open keeps what the
+// brewer has typed in it and only comes forward.
+void ProgramWindows::showCalculator(QWidget& w) { bringForward(w); }
+
+void ProgramWindows::recipeChangedByTool() {
+  if (!recipe_) return;
+  recipe_->refreshFromModel();
+  if (fermentation_) fermentation_->refreshFromModel();
+  if (comments_) comments_->refreshFromModel();
+}
+
+void ProgramWindows::closeCalculators() {
+  for (QWidget* w : std::initializer_list<QWidget*>{waterMgmt_, waterTreatment_, mash_, maltFormulator_, starter_})
+    if (w) w->close();
+}
+
+void ProgramWindows::openNewRecipe(int styleRow) {
+  dlgNewRecipe dlg(wb_, styleRow, beerStyles_ ? static_cast<QWidget*>(beerStyles_.get()) : nullptr);
+  dlg.openHelp = [this](const QString& page) { showHelpTopic(page); };
+  dlg.create = [this](NewRecipeDialog& m) {
+    frmRecipe& r = recipe();
+    frmAdvMaltFormulator& f = maltFormulator();
+    // A formulator still open on the old recipe is closed first (it may ask to export, and
+    // Cancel there ends the action).
+    f.close();
+    if (f.isVisible()) return false;
+    const RecipeOpenHooks hooks = r.editor().openHooks();
+    if (m.cmdOK(r.editor(), f.model, inventoryMaltFinder(wb_.inventory), &hooks) < 1) return false;
+    showRecipe();
+    f.keepModelAtNextShow();
+    bringForward(f);
+    return true;
+  };
+  dlg.exec();
 }
 
 // Each of these windows fills itself from the model when it is shown; one that is open already
@@ -195,6 +342,75 @@ void ProgramWindows::showBeerStyles(const std::string& styleName) {
   bringForward(b);
 }
 
+frmInventory& ProgramWindows::inventory() {
+  if (!inventory_) {
+    inventory_ = std::make_unique<frmInventory>(wb_);
+    frmInventory& w = *inventory_;
+    w.showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
+    w.recipeChanged = [this] {
+      if (recipe_) recipe_->refreshFromModel();
+    };
+    w.shoppingChanged = [this] {
+      if (shoppingList_) shoppingList_->refreshFromModel();
+    };
+  }
+  return *inventory_;
+}
+
+frmShoppingLst& ProgramWindows::shoppingList() {
+  if (!shoppingList_) {
+    shoppingList_ = std::make_unique<frmShoppingLst>(wb_);
+    shoppingList_->showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
+  }
+  return *shoppingList_;
+}
+
+frmInvCheck& ProgramWindows::invCheck() {
+  if (!invCheck_) {
+    invCheck_ = std::make_unique<frmInvCheck>(wb_, recipe().editor());
+    invCheck_->shoppingChanged = [this] { showShoppingList(); };
+  }
+  return *invCheck_;
+}
+
+void ProgramWindows::showInventory(bool toPickIngredients) {
+  frmInventory& w = inventory();
+  w.setAddToRecipe(toPickIngredients ? &recipe().editor() : nullptr);
+  w.refreshFromModel();
+  bringForward(w);
+}
+
+void ProgramWindows::showShoppingList() {
+  frmShoppingLst& w = shoppingList();
+  w.refreshFromModel();
+  bringForward(w);
+}
+
+void ProgramWindows::addRecipeToShoppingList() {
+  wb_.shopping.addRecipe(recipe().editor().sheet.grid);
+  keepShoppingList(wb_);
+  showShoppingList();
+}
+
+void ProgramWindows::showInvCheck() {
+  frmInvCheck& w = invCheck();
+  w.refresh();
+  bringForward(w);
+}
+
+frmBatchLogList& ProgramWindows::batchLogList() {
+  if (!batchLogList_) {
+    batchLogList_ = new frmBatchLogList(wb_, recipe().editor(), &recipe());
+    batchLogList_->showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
+  }
+  return *batchLogList_;
+}
+
+void ProgramWindows::showBatchLogList() {
+  frmBatchLogList& l = batchLogList();
+  if (l.loadForOpenRecipe()) bringForward(l);
+}
+
 void ProgramWindows::showRecipeList() { bringForward(recipeList()); }
 
 void ProgramWindows::showRecipe() {
@@ -223,11 +439,19 @@ void ProgramWindows::showComments() {
   bringForward(c);
 }
 
+void ProgramWindows::showRecReader() { bringForward(recReader()); }
+
 void ProgramWindows::closeAll() {
+  if (recReader_) recReader_->close();
   if (beerStyles_) beerStyles_->close();
+  closeCalculators();
   if (hopsUtilization_) hopsUtilization_->close();
   if (styleMatch_) styleMatch_->close();
   if (unitMashData_) unitMashData_->close();
+  if (invCheck_) invCheck_->close();
+  if (inventory_) inventory_->close();
+  if (shoppingList_) shoppingList_->close();
+  if (batchLogList_) batchLogList_->close();
   if (comments_) comments_->close();
   if (fermentation_) fermentation_->close();
   if (scale_) scale_->close();

@@ -17,10 +17,20 @@ class frmRecipe;
 class dlgScale;
 class frmFermentation;
 class frmComments;
+class frmRecReader;
 class frmHopsUtilization;
 class frmUnitMashData;
 class frmStyleMatch;
 class frmBeerStyles;
+class frmWaterMgmt;
+class frmWaterTreatment;
+class frmMash;
+class frmAdvMaltFormulator;
+class frmStarter;
+class frmInventory;
+class frmShoppingLst;
+class frmInvCheck;
+class frmBatchLogList;
 
 class ProgramWindows : public QObject {
   Q_OBJECT
@@ -36,10 +46,20 @@ class ProgramWindows : public QObject {
   dlgScale& scale();
   frmFermentation& fermentation();
   frmComments& comments();
+  frmRecReader& recReader();
   frmHopsUtilization& hopsUtilization();
   frmUnitMashData& unitMashData();
   frmStyleMatch& styleMatch();
   frmBeerStyles& beerStyles();
+  frmWaterMgmt& waterMgmt();
+  frmWaterTreatment& waterTreatment();
+  frmMash& mash();
+  frmAdvMaltFormulator& maltFormulator();
+  frmStarter& starter();
+  frmInventory& inventory();
+  frmShoppingLst& shoppingList();
+  frmInvCheck& invCheck();
+  frmBatchLogList& batchLogList();
 
   // What the menus and buttons do.
   void showRecipeList();
@@ -48,6 +68,7 @@ class ProgramWindows : public QObject {
   void openScale();
   void showFermentation();
   void showComments();
+  void showRecReader();
   void showHopsUtilization();
   void showUnitMashData();
   void showStyleMatch();
@@ -55,6 +76,19 @@ class ProgramWindows : public QObject {
   void openStyleFilter();
   // The style browser, on the named style when one is given.
   void showBeerStyles(const std::string& styleName = "");
+  // The brewing calculators, each filled from the open recipe when it is shown.
+  void showCalculator(QWidget& w);
+  // A new recipe for the style of row `styleRow`: the dialog, then the editor and the malt
+  // formulator on the style's grain bill.
+  void openNewRecipe(int styleRow);
+  // The inventory; `toPickIngredients` opens it in its "Add To Recipe" mode for the editor.
+  void showInventory(bool toPickIngredients);
+  void showShoppingList();
+  // The editor's whole recipe goes to the shopping list, which comes forward.
+  void addRecipeToShoppingList();
+  void showInvCheck();
+  // The logs of the open recipe (once it has been saved).
+  void showBatchLogList();
   // Closes every window that was created (they close for good while appClosing is set).
   void closeAll();
 
@@ -64,6 +98,9 @@ class ProgramWindows : public QObject {
  private:
   void showHelpTopic(const QString& page);
   void openProperties(QWidget* over);
+  // A calculator handed a result to the recipe: the editor and its companions repaint.
+  void recipeChangedByTool();
+  void closeCalculators();
 
   Workbench& wb_;
   frmMain& main_;
@@ -75,8 +112,19 @@ class ProgramWindows : public QObject {
   QPointer<dlgScale> scale_;
   QPointer<frmFermentation> fermentation_;
   QPointer<frmComments> comments_;
+  QPointer<frmRecReader> recReader_;
   QPointer<frmUnitMashData> unitMashData_;
   QPointer<frmStyleMatch> styleMatch_;
+  // The calculators belong to the editor's window too.
+  QPointer<frmWaterMgmt> waterMgmt_;
+  QPointer<frmWaterTreatment> waterTreatment_;
+  QPointer<frmMash> mash_;
+  QPointer<frmAdvMaltFormulator> maltFormulator_;
+  QPointer<frmStarter> starter_;
+  std::unique_ptr<frmInventory> inventory_;
+  std::unique_ptr<frmShoppingLst> shoppingList_;
+  std::unique_ptr<frmInvCheck> invCheck_;
+  QPointer<frmBatchLogList> batchLogList_;
 };
 
 }  // namespace zy

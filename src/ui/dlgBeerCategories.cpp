@@ -41,11 +41,12 @@ dlgBeerCategories::dlgBeerCategories(Workbench& wb, StyleEditor& editor, QWidget
   form->addRow(tr("&Name:"), txtCategory);
   form->addRow(tr("S&ubcategory:"), txtSubCategory);
 
-  cmdNew = new QPushButton(tr("&New"));
+  cmdNew = new QPushButton(tr("Ne&w"));
   cmdNew->setObjectName("cmdNew");
   cmdNew->setToolTip(tr("Empty the boxes for a new category"));
   cmdSave = new QPushButton(tr("&Save"));
   cmdSave->setObjectName("cmdSave");
+  cmdSave->setDefault(true);  // Return in a box keeps the category
   cmdSave->setToolTip(tr("Keep the boxes as the selected category, or as a new one"));
   cmdDelete = new QPushButton(tr("&Delete"));
   cmdDelete->setObjectName("cmdDelete");
@@ -62,17 +63,16 @@ dlgBeerCategories::dlgBeerCategories(Workbench& wb, StyleEditor& editor, QWidget
   row->addWidget(cmdDelete);
   right->addLayout(row);
   right->addStretch();
-  auto* left = new QVBoxLayout;
-  left->addWidget(listCaption);
-  left->addWidget(lstCategories);
+  // The caption stands above both columns, so that the list and the boxes begin on one line.
   auto* body = new QHBoxLayout;
-  body->addLayout(left, 1);
+  body->addWidget(lstCategories, 1);
   body->addLayout(right, 1);
   auto* bottom = new QHBoxLayout;
   bottom->addWidget(help);
   bottom->addStretch();
   bottom->addWidget(cmdClose);
   auto* layout = new QVBoxLayout(this);
+  layout->addWidget(listCaption);
   layout->addLayout(body);
   layout->addLayout(bottom);
 
@@ -87,6 +87,9 @@ dlgBeerCategories::dlgBeerCategories(Workbench& wb, StyleEditor& editor, QWidget
   connect(cmdClose, &QPushButton::clicked, this, &QDialog::accept);
   connect(help, &QPushButton::clicked, this, [this] { showStyleHelp(this, wb_, "beer-styles.html#categories"); });
   fillList(-1);
+  txtCategory->setToolTip(tr("The category's name, as the style lists show it"));
+  lstCategories->setMinimumWidth(200);
+  setMinimumSize(500, 240);
   resize(620, 320);
 }
 

@@ -37,6 +37,7 @@ dlgScale::dlgScale(RecipeEditor& editor, QWidget* parent) : QDialog(parent), edi
   txtVolume->setToolTip("The volume the recipe is to make; every quantity grows or shrinks with it");
   cboVolume = new QComboBox(volume);
   cboVolume->setObjectName("cboVolume");
+  cboVolume->setToolTip("The unit of the new volume");
   for (const std::string& u : measures().volumeUnits) cboVolume->addItem(qs(u));
   auto* lbl = new QLabel("&Volume:", volume);
   lbl->setBuddy(txtVolume);
@@ -51,6 +52,7 @@ dlgScale::dlgScale(RecipeEditor& editor, QWidget* parent) : QDialog(parent), edi
   for (size_t i = 0; i < optUnits.size(); ++i) {
     optUnits[i] = new QRadioButton(ScaleDialog::unitCaptions()[i], units);
     optUnits[i]->setObjectName(QString("optUnits%1").arg(i));
+    optUnits[i]->setToolTip("The units the scaled quantities are given in");
     urow->addWidget(optUnits[i]);
     connect(optUnits[i], &QRadioButton::clicked, this, [this, i] {
       model.setUnitSystem(static_cast<int>(i));

@@ -102,7 +102,7 @@ frmBeerStyles::frmBeerStyles(Workbench& wb, QWidget* parent)
   QMenu* file = menuBar()->addMenu(tr("&File"));
   mnuFileNewStyle = file->addAction(tr("&New Style..."), this, &frmBeerStyles::newStyle);
   mnuFileNewStyle->setShortcut(QKeySequence::New);
-  mnuFileChangeStyle = file->addAction(tr("&Change Style..."), this, &frmBeerStyles::changeStyle);
+  mnuFileChangeStyle = file->addAction(tr("C&hange Style..."), this, &frmBeerStyles::changeStyle);
   mnuFileDeleteStyle = file->addAction(tr("&Delete Style"), this, &frmBeerStyles::deleteStyle);
   mnuFileDeleteStyle->setShortcut(QKeySequence::Delete);
   file->addSeparator();
@@ -132,11 +132,13 @@ frmBeerStyles::frmBeerStyles(Workbench& wb, QWidget* parent)
   lvStyles->setRootIsDecorated(false);
   lvStyles->setAllColumnsShowFocus(true);
   lvStyles->setUniformRowHeights(true);
+  lvStyles->setToolTip(tr("Click a style to see its ranges; double-click one of your own to change it; "
+                          "click a column header to sort"));
   lvStyles->setSortingEnabled(true);
   lvStyles->sortByColumn(-1, Qt::AscendingOrder);  // table order until a header is clicked
   cmdNew = new QPushButton(tr("&New..."));
   cmdNew->setToolTip(tr("A custom style of your own, starting from the selected one's ranges"));
-  cmdChange = new QPushButton(tr("C&hange..."));
+  cmdChange = new QPushButton(tr("Chan&ge..."));
   cmdDelete = new QPushButton(tr("&Delete"));
   cmdNewRecipe = new QPushButton(tr("New &Recipe"));
   for (auto [b, n] : {std::pair{cmdNew, "cmdNew"}, {cmdChange, "cmdChange"}, {cmdDelete, "cmdDelete"},
@@ -154,7 +156,7 @@ frmBeerStyles::frmBeerStyles(Workbench& wb, QWidget* parent)
   leftButtons->addWidget(cmdNewRecipe);
   auto* left = new QWidget;
   auto* leftLayout = new QVBoxLayout(left);
-  leftLayout->setContentsMargins(0, 0, 0, 0);
+  leftLayout->setContentsMargins(6, 4, 0, 4);
   leftLayout->addLayout(leftTop);
   leftLayout->addWidget(lvStyles, 1);
   leftLayout->addLayout(leftButtons);
@@ -182,6 +184,7 @@ frmBeerStyles::frmBeerStyles(Workbench& wb, QWidget* parent)
   auto* commentsCaption = new QLabel(tr("Comments:"));
   txtComments = new QTextBrowser;
   txtComments->setObjectName("txtComments");
+  txtComments->setTabChangesFocus(true);
   txtComments->setPlaceholderText(tr("No comments for this style."));
   rightLayout->addWidget(commentsCaption);
   rightLayout->addWidget(txtComments, 1);
@@ -192,6 +195,11 @@ frmBeerStyles::frmBeerStyles(Workbench& wb, QWidget* parent)
   split->setStretchFactor(0, 3);
   split->setStretchFactor(1, 2);
   split->setChildrenCollapsible(false);
+  // Each side keeps room for its texts: the list its three columns, the details a range's caption
+  // beside its numbers.
+  left->setMinimumWidth(340);
+  right->setMinimumWidth(320);
+  setMinimumSize(720, 560);
   setCentralWidget(split);
   statusBar();
 

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "recipes/RecipeEditor.h"
+#include "recipes/SmartInstructions.h"
 #include "ui/QtPrompter.h"
 #include "ui/RecipeIcons.h"
 #include "ui/TopicIcons.h"
@@ -31,10 +32,8 @@ frmComments::frmComments(Workbench& wb, RecipeEditor& editor, QWidget* parent)
   mnuFileExport = file->addAction(recipeIcon("Export"), "&Export Text...", this, [this] { mnuFileExport_Click(); });
   mnuFileExport->setToolTip("Write the comment to a text file");
   file->addSeparator();
-  mnuSmartInstructions = file->addAction("S&mart Instructions");
-  mnuSmartInstructions->setEnabled(false);
-  mnuSmartInstructions->setToolTip("Comes with the text tools");
-  mnuSmartInstructions->setStatusTip("Comes with the text tools");
+  mnuSmartInstructions = file->addAction("S&mart Instructions", this, [this] { mnuFileSmart_Click(); });
+  mnuSmartInstructions->setToolTip("Write brewing instructions for the recipe into the comment");
   file->addSeparator();
   mnuFileClose = file->addAction("&Close", this, &QWidget::close);
   file->setToolTipsVisible(true);
@@ -50,24 +49,28 @@ frmComments::frmComments(Workbench& wb, RecipeEditor& editor, QWidget* parent)
   txtDateCreated = new QLineEdit(central);
   txtDateCreated->setObjectName("txtDateCreated");
   txtDateCreated->setMaxLength(11);
-  txtDateCreated->setMaximumWidth(110);
+  txtDateCreated->setMinimumWidth(txtDateCreated->fontMetrics().horizontalAdvance("MMM-00-00000") + 12);
+  txtDateCreated->setMaximumWidth(120);
   txtDateCreated->setToolTip("When the recipe was created, as mmm-dd-yyyy");
   txtIdCode = new QLineEdit(central);
   txtIdCode->setObjectName("txtIdCode");
   txtIdCode->setMaxLength(10);
-  txtIdCode->setMaximumWidth(110);
+  txtIdCode->setMinimumWidth(txtDateCreated->minimumWidth());
+  txtIdCode->setMaximumWidth(120);
   txtIdCode->setToolTip("Your own code for the recipe");
   txtLabelName = new QLineEdit(central);
   txtLabelName->setObjectName("txtLabelName");
   txtLabelName->setMaxLength(35);
   txtLabelName->setToolTip("The name on the bottle label");
   form->addRow("&Date Created:", txtDateCreated);
-  form->addRow("I&D Code:", txtIdCode);
+  form->addRow("&ID Code:", txtIdCode);
   form->addRow("&Label Name:", txtLabelName);
   box->addLayout(form);
   auto* lbl = new QLabel("&Comments:", central);
   txtComment = new QPlainTextEdit(central);
   txtComment->setObjectName("txtComment");
+  txtComment->setTabChangesFocus(true);
+  txtComment->setToolTip("Notes on the recipe: where it came from, how it turned out, what to change next time");
   lbl->setBuddy(txtComment);
   box->addWidget(lbl);
   box->addWidget(txtComment, 1);
@@ -93,6 +96,7 @@ frmComments::frmComments(Workbench& wb, RecipeEditor& editor, QWidget* parent)
   });
 
   refreshFromModel();
+  setMinimumSize(360, 260);
   restoreWindowPlacement(*this, wb_.settings, kSection, QSize(385, 239), QPoint(200, 160), QSize(480, 380));
 }
 
@@ -125,6 +129,14 @@ void frmComments::mnuFileExport_Click() {
   const auto path = wb_.prompter.saveFile("Export Comments", kFilter, folder.empty() ? "comments.txt" : folder + "/comments.txt");
   if (!path || path->empty()) return;
   editor_.exportComment(*path);
+}
+
+void frmComments::mnuFileSmart_Click() {
+  std::string comment = editor_.comments.comment;
+  if (!applySmartInstructions(editor_, comment)) return;
+  editor_.setCommentField(RecipeEditor::CommentField::Comment, comment);
+  refreshFromModel();
+  if (changed) changed();
 }
 
 void frmComments::closeEvent(QCloseEvent* event) {

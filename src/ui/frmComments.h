@@ -24,6 +24,9 @@ class frmComments : public QMainWindow {
   void refreshFromModel();
   void mnuFileImport_Click();
   void mnuFileExport_Click();
+  // "Smart Instructions": the written procedure replaces an empty comment; otherwise the user
+  // chooses to replace it, to append to it, or to keep it.
+  void mnuFileSmart_Click();
   std::function<void()> changed;  // the editor repaints its save button
   std::function<void(const QString&)> showHelpTopic;
 

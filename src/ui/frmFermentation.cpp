@@ -66,8 +66,10 @@ frmFermentation::frmFermentation(Workbench& wb, FermentationForm& form, QWidget*
     txtValue[k]->setToolTip("How long this stage lasts; 0 leaves the stage out");
     cboValueUnits[k] = listBox(ferment, QString("cboValueUnits%1").arg(i), m.timeUnits);
     txtTemp[k] = numberBox(ferment, QString("txtTemp%1").arg(i), 60);
+    txtTemp[k]->setToolTip("The temperature to hold during this stage");
     lblStageTempUnits[k] = new QLabel(ferment);
     cboVessel[k] = listBox(ferment, QString("cboVessel%1").arg(i), m.vessels);
+    cboVessel[k]->setToolTip("The fermenter this stage runs in");
     fg->addWidget(new QLabel(qs(listText(m.fermentStages, i)) + ":"), i + 1, 0);
     fg->addWidget(txtValue[k], i + 1, 1);
     fg->addWidget(cboValueUnits[k], i + 1, 2);
@@ -102,6 +104,7 @@ frmFermentation::frmFermentation(Workbench& wb, FermentationForm& form, QWidget*
   txtConditioning = new QPlainTextEdit(cond);
   txtConditioning->setObjectName("txtConditioning");
   txtConditioning->setFixedHeight(54);
+  txtConditioning->setTabChangesFocus(true);
   txtConditioning->setToolTip("Priming sugar, kraeusen or CO2 pressure: how the beer gets its carbonation");
   condLabel->setBuddy(txtConditioning);
   cg->addWidget(condLabel, 2, 0, 1, 2);
@@ -130,6 +133,7 @@ frmFermentation::frmFermentation(Workbench& wb, FermentationForm& form, QWidget*
   auto* agr = new QHBoxLayout(aging);
   chkAge = new QCheckBox("&Include", aging);
   chkAge->setObjectName("chkAge");
+  chkAge->setToolTip("Age or lager the beer after fermentation, for the time and at the temperature beside");
   txtAgeValue = numberBox(aging, "txtAgeValue", 50);
   cboAgeUnits = listBox(aging, "cboAgeUnits", m.timeUnits);
   txtAgeTemp = numberBox(aging, "txtAgeTemp", 60);

@@ -44,6 +44,8 @@ class frmFermentation : public QDialog {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  // Esc closes the window as OK does, keeping its place.
+  void reject() override { close(); }
 
  private:
   void showAgeState();

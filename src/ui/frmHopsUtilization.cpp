@@ -315,6 +315,11 @@ frmHopsUtilization::frmHopsUtilization(Workbench& wb, QWidget* parent) : QWidget
   all->addLayout(buttons);
 
   setTabOrder(grdUtil, cmdRager);
+  // The bottom row as it stands on the screen: Help and Print on the left, Accept and Cancel right.
+  setTabOrder(txtFactor[2], cmdHelp);
+  setTabOrder(cmdHelp, cmdPrint);
+  setTabOrder(cmdPrint, cmdAccept);
+  setTabOrder(cmdAccept, cmdCancel);
   resize(860, 640);
   load();
 }
@@ -560,6 +565,11 @@ void frmHopsUtilization::showHelp() {
 void frmHopsUtilization::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape) {
     cmdCancel_Click();
+    return;
+  }
+  // The grid and the factor boxes keep Return for themselves; on a button it presses the button.
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (auto* b = qobject_cast<QPushButton*>(focusWidget()); b && b->isEnabled()) b->click();
     return;
   }
   QWidget::keyPressEvent(event);

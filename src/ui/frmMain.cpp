@@ -31,6 +31,7 @@
 #include "calculators/HopsUtilization.h"
 #include "core/measures.h"
 #include "core/text.h"
+#include "inventory/InventoryStartup.h"
 #include "reference/Backup.h"
 #include "reference/UpdateCheck.h"
 #include "styles/StyleStore.h"
@@ -453,6 +454,7 @@ void frmMain::load(const std::string& commandLine) {
   sequence_.on(LoadStep::WindowSettings, [this] { restoreWindowSettings(); });
   sequence_.on(LoadStep::OpenTopicStore, [this] { browser_.openTopicStore(); });
   sequence_.on(LoadStep::InitMeasures, [] { initMeasures(); });
+  sequence_.on(LoadStep::LoadInventories, [this] { loadInventoryAndShopping(wb_); });
   sequence_.on(LoadStep::LoadDefaults, [this] { wb_.loadDefaults(); });
   sequence_.on(LoadStep::LoadTopicsAndBooks, [this] {
     browser_.loadEncyclopediaTopics();

@@ -9,6 +9,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -39,8 +40,8 @@ const std::array<ToolInfo, kRecipeToolCount>& toolInfo() {
   static const std::array<ToolInfo, kRecipeToolCount> t = {{
       {"Hops utilization curve and bitterness by boil time", "Comes with the hops utilization window"},
       {"The mash steps: their times and temperatures", "Comes with the mash schedule window"},
-      {"Find the beer styles this recipe matches", "Comes with the beer style windows"},
-      {"Choose which styles the style list offers", "Comes with the beer style windows"},
+      {"Match/Find Beer Style: the styles this recipe fits", "Comes with the beer style windows"},
+      {"Beer Style Filtering: which styles the Beer Style list offers", "Comes with the beer style windows"},
       {"Browse the beer styles", "Comes with the beer style windows"},
       {"Show your stock of ingredients", "Comes with the inventory"},
       {"Add ingredients from your inventory", "Comes with the inventory"},
@@ -171,7 +172,7 @@ frmRecipe::frmRecipe(Workbench& wb, QWidget* parent) : QMainWindow(parent), wb_(
 
   for (int i = 0; i < kRecipeToolCount; ++i) setToolOpener(static_cast<RecipeTool>(i), {});
   refreshFromModel();
-  restoreWindowPlacement(*this, wb_.settings, kSection, QSize(1080, 690), QPoint(80, 40), QSize(900, 640));
+  restoreWindowPlacement(*this, wb_.settings, kSection, QSize(1160, 730), QPoint(60, 30));
 }
 
 QAction* frmRecipe::toolAction(RecipeTool t, QMenu* menu, const QString& text) {
@@ -352,14 +353,20 @@ QWidget* frmRecipe::buildTitleFrame() {
   txtTitle->setToolTip("The recipe's name, as the recipe list shows it");
   cboRecipeType = new QComboBox(g);
   cboRecipeType->setObjectName("cboRecipeType");
+  cboRecipeType->setToolTip("The kind of beer the recipe makes; the recipe list can group by it");
   cboBeerStyle = new QComboBox(g);
   cboBeerStyle->setObjectName("cboBeerStyle");
-  cboBeerStyle->setMinimumWidth(220);
+  cboBeerStyle->setMinimumWidth(190);
   cboBeerStyle->setMaxVisibleItems(20);
   cboBeerStyle->setToolTip("The style the recipe is judged against");
-  cmdSearch = new QPushButton(toolIcon(ToolIcon::Search), "Matc&h...", g);
+  // A recipe style that the filter hides stands in the box as its placeholder: it is the recipe's
+  // own style, so it reads as plain text, not greyed like a hint.
+  QPalette stylePalette = cboBeerStyle->palette();
+  stylePalette.setColor(QPalette::PlaceholderText, stylePalette.color(QPalette::ButtonText));
+  cboBeerStyle->setPalette(stylePalette);
+  cmdSearch = new QPushButton(toolIcon(ToolIcon::Search), "&Match...", g);
   cmdSearch->setObjectName("cmdSearch");
-  cmdFilter = new QPushButton("F&ilter...", g);
+  cmdFilter = new QPushButton("Filte&r...", g);
   cmdFilter->setObjectName("cmdFilter");
   toolWidgets_[static_cast<size_t>(RecipeTool::StyleMatch)].push_back(cmdSearch);
   toolWidgets_[static_cast<size_t>(RecipeTool::StyleFilter)].push_back(cmdFilter);
@@ -373,6 +380,7 @@ QWidget* frmRecipe::buildTitleFrame() {
   for (QLineEdit* e : {txtFermentVolume, txtInitalBoilVolume}) {
     e->setValidator(numberValidator(e));
     e->setAlignment(Qt::AlignRight);
+    e->setMinimumWidth(64);
     e->setMaximumWidth(70);
   }
   txtFermentVolume->setToolTip("The volume that goes into the fermenter; gravities follow it");
@@ -387,7 +395,7 @@ QWidget* frmRecipe::buildTitleFrame() {
 
   grid->addWidget(caption("Recipe &Name:", txtTitle), 0, 0);
   grid->addWidget(txtTitle, 0, 1, 1, 6);
-  grid->addWidget(caption("Recipe &Type:", cboRecipeType), 1, 0);
+  grid->addWidget(caption("Recipe Ty&pe:", cboRecipeType), 1, 0);
   grid->addWidget(cboRecipeType, 1, 1, 1, 2);
   grid->addWidget(caption("Beer &Style:", cboBeerStyle), 1, 3);
   auto* styleRow = new QHBoxLayout;
@@ -395,7 +403,7 @@ QWidget* frmRecipe::buildTitleFrame() {
   styleRow->addWidget(cmdSearch);
   styleRow->addWidget(cmdFilter);
   grid->addLayout(styleRow, 1, 4, 1, 3);
-  grid->addWidget(caption("&Fermentation Volume:", txtFermentVolume), 2, 0);
+  grid->addWidget(caption("Fermentation Vol&ume:", txtFermentVolume), 2, 0);
   grid->addWidget(txtFermentVolume, 2, 1);
   grid->addWidget(lblFermentUnits, 2, 2);
   lblFermentUnits->setMinimumWidth(86);
@@ -406,6 +414,7 @@ QWidget* frmRecipe::buildTitleFrame() {
   boilRow->addWidget(lblBoilUnits);
   boilRow->addStretch();
   grid->addLayout(boilRow, 2, 4);
+  // The recipe's units and mash as the units/mash window sets them, with its button below.
   grid->addWidget(caption("Units:"), 3, 0);
   grid->addWidget(lblUnitType, 3, 1, 1, 2);
   grid->addWidget(caption("Mash:"), 3, 3);
@@ -414,16 +423,20 @@ QWidget* frmRecipe::buildTitleFrame() {
   mashRow->addSpacing(8);
   mashRow->addWidget(new QLabel("Efficiency %:"));
   mashRow->addWidget(lblMashEff);
-  mashRow->addSpacing(8);
-  mashRow->addWidget(new QLabel("Boil (min):"));
-  mashRow->addWidget(lblBoilTime);
   mashRow->addStretch();
-  cmdUnitMash = new QPushButton("&Units/Mash...", g);
+  grid->addLayout(mashRow, 3, 4, 1, 3);
+  grid->addWidget(caption("Boil Time:"), 4, 0);
+  auto* boilTimeRow = new QHBoxLayout;
+  boilTimeRow->addWidget(lblBoilTime);
+  boilTimeRow->addSpacing(4);
+  boilTimeRow->addWidget(new QLabel("minutes"));
+  boilTimeRow->addStretch();
+  grid->addLayout(boilTimeRow, 4, 1, 1, 2);
+  cmdUnitMash = new QPushButton("Units/Mash...", g);
   cmdUnitMash->setObjectName("cmdUnitMash");
   toolWidgets_[static_cast<size_t>(RecipeTool::UnitMashData)].push_back(cmdUnitMash);
   connect(cmdUnitMash, &QPushButton::clicked, this, [this] { runTool(RecipeTool::UnitMashData); });
-  mashRow->addWidget(cmdUnitMash);
-  grid->addLayout(mashRow, 3, 4, 1, 3);
+  grid->addWidget(cmdUnitMash, 4, 4, 1, 3, Qt::AlignRight);
   grid->setColumnStretch(4, 1);
 
   connect(txtTitle, &QLineEdit::textEdited, this, [this](const QString& t) {
@@ -507,6 +520,7 @@ QWidget* frmRecipe::buildGrid() {
   grdIngredients->setSelectionBehavior(QAbstractItemView::SelectRows);
   grdIngredients->setSelectionMode(QAbstractItemView::SingleSelection);
   grdIngredients->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  grdIngredients->setTabKeyNavigation(false);  // Tab leaves the grid; the arrows move in it
   grdIngredients->setAlternatingRowColors(false);
   grdIngredients->setShowGrid(true);
   grdIngredients->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -516,7 +530,10 @@ QWidget* frmRecipe::buildGrid() {
     if (c == COL_NAME) hh->setSectionResizeMode(c, QHeaderView::Stretch);
     else grdIngredients->setColumnWidth(c, widths[c]);
   }
-  grdIngredients->setMinimumHeight(21 * 17 + 4);
+  grdIngredients->setMinimumHeight(21 * 12 + 4);  // a dozen rows; the window fits a small screen
+  grdIngredients->installEventFilter(this);
+  grdIngredients->setToolTip("Arrow keys choose an ingredient, Return edits its quantity, Delete removes it; "
+                             "right click or the menu key to sort or move");
   connect(grdIngredients->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           [this](const QModelIndex& cur) {
             if (painting_) return;
@@ -534,7 +551,7 @@ QWidget* frmRecipe::buildGrid() {
 
   auto* buttons = new QVBoxLayout;
   buttons->setSpacing(4);
-  const char* captions[4] = {"New &Malt", "New H&ops", "New O&ther", "New &Yeast"};
+  const char* captions[4] = {"New M&alt", "Ne&w Hops", "New &Other", "New &Yeast"};
   for (int k = 0; k < 4; ++k) {
     auto* b = new QPushButton(captions[k], row);
     b->setObjectName(QString("cmdAddNew%1").arg(k));
@@ -547,7 +564,7 @@ QWidget* frmRecipe::buildGrid() {
     buttons->addWidget(b);
   }
   buttons->addSpacing(8);
-  cmdAddIngredients = new QPushButton("From In&ventory", row);
+  cmdAddIngredients = new QPushButton("From Inv&entory", row);
   cmdAddIngredients->setObjectName("cmdAddIngredients");
   toolWidgets_[static_cast<size_t>(RecipeTool::FromInventory)].push_back(cmdAddIngredients);
   connect(cmdAddIngredients, &QPushButton::clicked, this, [this] { runTool(RecipeTool::FromInventory); });
@@ -555,7 +572,7 @@ QWidget* frmRecipe::buildGrid() {
   buttons->addSpacing(8);
   cmdDeleteIngredient = new QPushButton(recipeIcon("Delete"), "&Delete", row);
   cmdDeleteIngredient->setObjectName("cmdDeleteIngredient");
-  cmdDeleteIngredient->setToolTip("Delete the selected ingredient from the recipe");
+  cmdDeleteIngredient->setToolTip("Delete the selected ingredient from the recipe (the Delete key in the grid)");
   connect(cmdDeleteIngredient, &QPushButton::clicked, this, [this] {
     editor_.cmdDeleteIngredient_Click();
     afterEdit(true);
@@ -599,6 +616,7 @@ QWidget* frmRecipe::buildEditStrip() {
   txtItem->setObjectName("txtItem");
   txtItem->setMaxLength(50);
   txtItem->setMinimumWidth(180);
+  txtItem->setToolTip("The ingredient's name");
   txtQty = edit("txtQty", 64);
   txtQty->setContextMenuPolicy(Qt::CustomContextMenu);
   txtQty->setToolTip("Quantity; right click to step to the next or previous whole, half, quarter or tenth");
@@ -606,6 +624,7 @@ QWidget* frmRecipe::buildEditStrip() {
   cboUnits = new QComboBox(fraEdits);
   cboUnits->setObjectName("cboUnits");
   cboUnits->setMinimumWidth(90);
+  cboUnits->setToolTip("The unit of the quantity; for a malt or a hop a new unit converts the quantity and the cost");
   txtCost = edit("txtCost", 70, true);
   txtCost->setToolTip("Cost per unit");
   udcCost = spinner("udcCost", StripField::Cost);
@@ -631,25 +650,26 @@ QWidget* frmRecipe::buildEditStrip() {
                                                     lblColorCaption, txtColor, udcColor, chkMash})
     keep(w);
 
-  int c = 0;
-  grid->addWidget(caption("&Item:", txtItem), 0, c++);
-  grid->addWidget(txtItem, 0, c++);
-  grid->addWidget(caption("&Quantity:", txtQty), 0, c++);
-  grid->addWidget(txtQty, 0, c++);
-  grid->addWidget(udcQty, 0, c++);
-  grid->addWidget(cboUnits, 0, c++);
-  grid->addWidget(caption("C&ost:", txtCost), 0, c++);
-  grid->addWidget(txtCost, 0, c++);
-  grid->addWidget(udcCost, 0, c++);
-  grid->addWidget(lblExtraction, 0, c++);
-  grid->addWidget(txtExtraction, 0, c++);
-  grid->addWidget(udcExtraction, 0, c++);
-  grid->addWidget(lblExtPct, 0, c++);
-  grid->addWidget(lblColorCaption, 0, c++);
-  grid->addWidget(txtColor, 0, c++);
-  grid->addWidget(udcColor, 0, c++);
-  grid->addWidget(chkMash, 0, c++);
-  grid->setColumnStretch(1, 1);
+  // Two lines: what the ingredient is and what it costs, then what it gives the beer.
+  grid->addWidget(caption("In&gredient:", txtItem), 0, 0);
+  grid->addWidget(txtItem, 0, 1, 1, 3);
+  grid->addWidget(caption("&Quantity:", txtQty), 0, 4);
+  grid->addWidget(txtQty, 0, 5);
+  grid->addWidget(udcQty, 0, 6);
+  grid->addWidget(cboUnits, 0, 7);
+  grid->addWidget(caption("&Cost/Unit:", txtCost), 0, 8);
+  grid->addWidget(txtCost, 0, 9);
+  grid->addWidget(udcCost, 0, 10);
+  grid->addWidget(lblExtraction, 1, 0);
+  grid->addWidget(txtExtraction, 1, 1);
+  grid->addWidget(udcExtraction, 1, 2);
+  grid->addWidget(lblExtPct, 1, 3);
+  grid->addWidget(lblColorCaption, 1, 4);
+  grid->addWidget(txtColor, 1, 5);
+  grid->addWidget(udcColor, 1, 6);
+  grid->addWidget(chkMash, 1, 7, Qt::AlignLeft);
+  grid->setColumnStretch(3, 1);
+  grid->setColumnStretch(11, 1);
 
   connect(txtItem, &QLineEdit::textEdited, this, [this](const QString& t) {
     editor_.setItemName(s8(t));
@@ -688,7 +708,42 @@ QWidget* frmRecipe::buildEditStrip() {
   connect(txtQty, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
     if (editor_.sheet.grid.isItemRow(editor_.selectedRow)) mnuQty->popup(txtQty->mapToGlobal(at));
   });
+  for (QLineEdit* e : {txtItem, txtQty, txtCost, txtExtraction, txtColor}) e->installEventFilter(this);
   return fraEdits;
+}
+
+bool frmRecipe::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return QMainWindow::eventFilter(watched, event);
+  const auto* k = static_cast<QKeyEvent*>(event);
+  const int key = k->key();
+  const bool plain = (k->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  const bool itemRow = editor_.sheet.grid.isItemRow(editor_.selectedRow);
+  if (watched == grdIngredients && plain) {
+    if (key == Qt::Key_Delete && itemRow) {
+      cmdDeleteIngredient->click();
+      return true;
+    }
+    if ((key == Qt::Key_Return || key == Qt::Key_Enter) && itemRow) {
+      txtQty->setFocus(Qt::TabFocusReason);
+      txtQty->selectAll();
+      return true;
+    }
+    if (key == Qt::Key_Menu) {
+      const QRect r = grdIngredients->visualRect(gridModel->index(std::max(editor_.selectedRow, 0), COL_NAME));
+      emit grdIngredients->customContextMenuRequested(r.center());
+      return true;
+    }
+    return false;
+  }
+  // In a box of the strip, Return settles the value and goes back to the grid, and so does Esc.
+  if (watched != grdIngredients && plain && (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape)) {
+    auto* box = qobject_cast<QLineEdit*>(watched);
+    if (!box) return false;
+    if (key != Qt::Key_Escape) emit box->editingFinished();
+    grdIngredients->setFocus(Qt::OtherFocusReason);
+    return true;
+  }
+  return QMainWindow::eventFilter(watched, event);
 }
 
 // ---- Tools -----------------------------------------------------------------------------------------
@@ -710,9 +765,15 @@ void frmRecipe::showToolStates() {
     if (static_cast<RecipeTool>(i) == RecipeTool::MashInfo) on = on && editor_.mashInfoEnabled;
     QString tip = present ? toolInfo()[i].tip : toolInfo()[i].missing;
     if (present && !on) tip = "Mash Information needs a recipe with a mash";
+    // The water management button follows the mash type as the mash button does; its menu
+    // entry stays open for a recipe without a mash.
+    const bool waterButton = static_cast<RecipeTool>(i) == RecipeTool::WaterMgmt;
+    const bool buttonOn = waterButton ? on && editor_.mashInfoEnabled : on;
     for (QAction* a : toolActions_[i]) {
-      a->setEnabled(on);
-      setTip(a, tip);
+      const bool isButton = waterButton && a == tb["WaterMgmt"];
+      a->setEnabled(isButton ? buttonOn : on);
+      setTip(a, isButton && on && !buttonOn ? QString("Water Management from the toolbar needs a recipe with a mash")
+                                            : tip);
     }
     for (QWidget* w : toolWidgets_[i]) {
       w->setEnabled(on);

@@ -132,6 +132,9 @@ class frmRecipe : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  // The grid and the edit strip by keyboard: Delete, Return and the menu key on the grid; Return
+  // and Esc in a box of the strip.
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void buildMenus();

@@ -79,6 +79,8 @@ frmRecipeList::frmRecipeList(Workbench& wb, QWidget* parent) : QMainWindow(paren
   wb_.refreshRecipeTree = [this] { refreshTree(); };
   refreshTree();
   const RecipeListSettings s = RecipeListSettings::read(wb_);
+  // Narrow enough to stand beside the editor, wide enough for the whole toolbar.
+  setMinimumSize(380, 320);
   restoreWindowPlacement(*this, wb_.settings, kRecipeListSection,
                          QSize(twipsToPixels(s.mainWidth), twipsToPixels(s.mainHeight)),
                          QPoint(twipsToPixels(s.mainLeft), twipsToPixels(s.mainTop)), QSize(380, 520));

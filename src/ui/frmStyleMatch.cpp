@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -64,6 +65,10 @@ frmStyleMatch::frmStyleMatch(Workbench& wb, RecipeEditor& editor, QWidget* paren
   layout->addWidget(lvStyle, 1);
   layout->addWidget(hints);
   layout->addLayout(buttons);
+  // Room for a style's name and half a dozen rows at the least.
+  lvStyle->setMinimumHeight(lvStyle->fontMetrics().height() * 8);
+  lvStyle->header()->setMinimumSectionSize(40);
+  setMinimumSize(500, 320);
 
   connect(lvStyle->header(), &QHeaderView::sectionClicked, this, [this](int c) {
     model.selected = lvStyle->currentItem() ? lvStyle->indexOfTopLevelItem(lvStyle->currentItem()) : -1;
@@ -136,6 +141,18 @@ void frmStyleMatch::showEvent(QShowEvent* event) {
   }
   refresh();
   QWidget::showEvent(event);
+}
+
+void frmStyleMatch::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (auto* b = qobject_cast<QPushButton*>(focusWidget())) b->click();
+      else if (cmdSetRecipe->isEnabled()) cmdSetRecipe->click();
+      return;
+    case Qt::Key_Escape: close(); return;
+    default: QWidget::keyPressEvent(event);
+  }
 }
 
 void frmStyleMatch::closeEvent(QCloseEvent* event) { closeStyleWindow(this, wb_, kSection, event); }

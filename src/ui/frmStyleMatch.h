@@ -40,6 +40,8 @@ class frmStyleMatch : public QWidget {
  protected:
   void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  // Return takes the selected style, as the window's default button; Esc closes.
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void repaintList();

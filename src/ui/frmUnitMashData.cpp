@@ -106,6 +106,10 @@ frmUnitMashData::frmUnitMashData(Workbench& wb, RecipeEditor& editor, QWidget* p
   for (QLineEdit* e : {txtMashEfficiency, txtBoilTime})
     connect(e, &QLineEdit::returnPressed, this, [this] { cmdOK_Click(); });
 
+  // Tab takes the bottom row as it stands: Help on the left, then OK and Cancel.
+  setTabOrder(txtBoilTime, cmdHelp);
+  setTabOrder(cmdHelp, cmdOK);
+  setTabOrder(cmdOK, cmdCancel);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(cmdHelp);
   buttons->addStretch();
@@ -177,6 +181,12 @@ void frmUnitMashData::showHelp() {
 void frmUnitMashData::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape) {
     cmdCancel_Click();
+    return;
+  }
+  // Return that no box took presses the button in focus, else OK, the window's default button.
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (auto* b = qobject_cast<QPushButton*>(focusWidget())) b->click();
+    else cmdOK_Click();
     return;
   }
   QWidget::keyPressEvent(event);

@@ -11,6 +11,8 @@
 #include "core/ports.h"
 #include "core/settings.h"
 #include "calculators/HopsUtilization.h"
+#include "inventory/InventoryStore.h"
+#include "inventory/ShoppingList.h"
 #include "recipes/RecipeList.h"
 #include "recipes/RecipeRecords.h"
 #include "styles/StyleTables.h"
@@ -46,6 +48,9 @@ class Workbench {
   HopsUtilization hops;
   // The recipe list's model: the tree of recipes, its sort mode and currentRecipeKey.
   RecipeList recipeList;
+  // The five stock lists (the inventory window's working copy) and the shopping list.
+  Inventory inventory;
+  ShoppingList shopping;
 
   // Set when the main window starts to close: a child window's close only hides it (so that it
   // keeps its state between uses) unless this is set.

@@ -4,6 +4,7 @@
 #include "recipes/NewRecipe.h"
 #include "calculators/MaltFormulator.h"
 #include "core/numfmt.h"
+#include "inventory/InventoryStore.h"
 
 using namespace zy;
 using namespace zy::test;
@@ -172,4 +173,63 @@ TEST(NewRecipeFromStyle, OkStartsTheRecipeAndSeedsTheFormulator) {
     return std::nullopt;
   });
   EXPECT_EQ(f.lvMalts[1].name + " " + f.lvMalts[1].cost, "Black Malt $2.50");
+}
+
+TEST(MaltFormulator, AnInventoryMaltJoinsTheListWithItsOwnValues) {
+  CalcBench cb;
+  cb.open({CalcBench::pale()});
+  MaltFormulator f(cb.editor);
+  f.load();
+  InventoryItem item;
+  item.name = "Maris Otter", item.units = UNIT_KG, item.cost = 2.2, item.color = 3.5, item.extract = 1.038, item.mash = 1;
+  EXPECT_FALSE(f.addInventoryMalt(INV_HOPS, item));
+  ASSERT_TRUE(f.addInventoryMalt(INV_MALT, item));
+  const FormulatorMalt& m = f.lvMalts.back();
+  EXPECT_EQ(m.name + "|" + m.quantity + "|" + m.cost + "|" + m.color + "|" + m.extraction + "|" + m.targetPct,
+            "Maris Otter|0.0|$2.20|3.5|1.038|0.0");
+  EXPECT_EQ(m.unit, UNIT_KG);
+  EXPECT_TRUE(m.mash);
+  EXPECT_TRUE(f.changed);
+  EXPECT_EQ(f.lvMalts.size(), 2u);
+}
+
+TEST(NewRecipeFromStyle, AChangedRecipeIsOfferedForSavingFirst) {
+  CalcBench cb;
+  cb.open({CalcBench::pale()});
+  cb.wb.styles.BeerStyles[0].styleName = "Mild";
+  cb.wb.styles.BeerStyleCount = 1;
+  cb.editor.recChanged();
+  MaltFormulator f(cb.editor);
+  f.load();
+  NewRecipeDialog d(cb.wb);
+  d.setStyle(0);
+  const RecipeOpenHooks hooks = cb.editor.openHooks();
+  cb.b.prompter.answers = {Answer::Cancel};
+  EXPECT_EQ(d.cmdOK(cb.editor, f, noInventory, &hooks), 0);
+  EXPECT_EQ(shownLines(cb.b.prompter), std::vector<std::string>{"Save Recipe: Recipe has Changed, Save Changes?"});
+  EXPECT_EQ(f.lvMalts.size(), 1u);  // nothing replaced
+  cb.b.prompter.answers = {Answer::No};
+  EXPECT_GT(d.cmdOK(cb.editor, f, noInventory, &hooks), 0);
+  EXPECT_EQ(cb.editor.txtTitle, "New Mild Recipe");
+  EXPECT_EQ(f.lvMalts.size(), 2u);
+}
+
+TEST(NewRecipeFromStyle, TheInventoryLookUpTakesTheFirstMaltInRangeWithTheMashFlag) {
+  Inventory inv;
+  auto add = [&](const std::string& name, double color, int mash, double cost) {
+    InventoryItem item;
+    item.name = name, item.color = color, item.mash = mash, item.cost = cost, item.extract = 1.036;
+    inv.list(INV_MALT).rows.push_back({"new", inventoryRowCells(INV_MALT, item, "")});
+  };
+  add("Light DME", 2.0, 0, 3.5);
+  add("Two-Row", 1.8, 1, 1.1);
+  add("Maris Otter", 3.0, 1, 1.4);
+  const FindInvItem find = inventoryMaltFinder(inv);
+  auto name = [&](double from, double to, bool mash) {
+    const auto m = find(from, to, mash, "");
+    return m ? m->name + " " + formatNumber(m->cost, "Currency") : std::string("none");
+  };
+  EXPECT_EQ(name(1.0, 3.0, true), "Two-Row $1.10");    // list order, the mash flag respected
+  EXPECT_EQ(name(2.5, 3.0, true), "Maris Otter $1.40");  // the upper end included
+  EXPECT_EQ(name(1.0, 1.5, false), "none");
 }

@@ -239,7 +239,7 @@ TEST_F(WindowsTest, ToolsWithoutAWindowStayDisabledWithATip) {
   frmRecipe& r = editor();
   EXPECT_FALSE(r.tb["Preview"]->isEnabled());
   EXPECT_EQ(r.tb["Preview"]->toolTip(), "Comes with the reports");
-  EXPECT_EQ(r.cmdAddIngredients->toolTip(), "Comes with the inventory");
+  EXPECT_TRUE(r.cmdAddIngredients->isEnabled());  // the inventory has come
   int opened = 0;
   r.setToolOpener(RecipeTool::PrintPreview, [&] { ++opened; });
   r.setToolOpener(RecipeTool::MashInfo, [&] { ++opened; });
@@ -252,6 +252,8 @@ TEST_F(WindowsTest, ToolsWithoutAWindowStayDisabledWithATip) {
   model().mashDataChanged();
   r.refreshFromModel();
   EXPECT_FALSE(r.mnuInstructMashInfo->isEnabled());
+  EXPECT_FALSE(r.tb["WaterMgmt"]->isEnabled());
+  EXPECT_TRUE(r.mnuInstructWaterMgmt->isEnabled());
   EXPECT_EQ(r.lblMashEff->text(), "N/A");
 
   // Help opens each window's own page.

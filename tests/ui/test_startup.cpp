@@ -88,7 +88,7 @@ TEST(Startup, LoadRunsEveryStepInItsOrder) {
   w.load("");
   const std::vector<std::string> expected = {
       "WindowSettings",     "OpenTopicStore",  "InitMeasures",
-      "LoadInventories (not present)", "LoadDefaults", "LoadTopicsAndBooks",
+      "LoadInventories",  "LoadDefaults", "LoadTopicsAndBooks",
       "LoadBeerStyles",     "LoadHopsUtilization",
       "LabelEntry",         "BuildTreeAndTabs", "CommandLineImport", "UpdateCheck"};
   EXPECT_EQ(w.loadSequence().log(), expected);
