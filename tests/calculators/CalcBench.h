@@ -20,12 +20,8 @@ struct CalcBench {
   void open(const std::vector<RecipeItemRecord>& items, std::function<void(RecipeRecord&)> extra = {}) {
     newRecipeRecord(wb);
     CurrentRecipe& cur = wb.recipe;
-    cur.rec.recipeNo = 1;
-    cur.rec.volumeUnits = US_GAL_CONST;
-    cur.rec.fermentVolume = 5;
-    cur.rec.boilVolume = 6;
-    cur.rec.boilTime = 60;
-    cur.rec.mashType = 3;
+    RecipeRecord& r = cur.rec;
+    r.recipeNo = 1, r.volumeUnits = US_GAL_CONST, r.fermentVolume = 5, r.boilVolume = 6, r.boilTime = 60, r.mashType = 3;
     for (size_t k = 0; k < items.size(); ++k) cur.items[k] = items[k];
     cur.rec.itemCount = static_cast<int>(items.size());
     if (extra) extra(cur.rec);

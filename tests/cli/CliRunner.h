@@ -12,6 +12,8 @@ namespace zy::test {
 struct CliResult {
   int status;
   std::string out, err;
+  // The whole outcome as "status|standard output|standard error", for one comparison.
+  std::string all() const { return std::to_string(status) + "|" + out + "|" + err; }
 };
 
 inline std::string slurp(std::FILE* f) {
@@ -37,6 +39,17 @@ struct CliHome {
     int status = zy::cli::run(argv, out, err);
     return {status, slurp(out), slurp(err)};
   }
+};
+
+// A program folder for the command line with a workbench of its own over it, to write the data
+// files through the stores; terminating errors throw zy::Terminated.
+struct CliBench {
+  CliHome home;
+  MemorySettingsStore settings;
+  ScriptedPrompter prompter;
+  FixedClock clock{46000.0};
+  Workbench wb{home.dir.path(), settings, prompter, clock};
+  CliBench() { wb.errors.setTerminationHook([](int n) { throw Terminated(n); }); }
 };
 
 }  // namespace zy::test

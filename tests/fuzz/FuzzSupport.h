@@ -65,6 +65,22 @@ Env& env();
 
 std::string readAll(const std::string& path);
 void writeAll(const std::string& path, const std::string& bytes);
+inline std::string text(const uint8_t* data, size_t size) { return std::string(reinterpret_cast<const char*>(data), size); }
+
+// Writes the input to `path`; what `trip` (a read of the file and its writing as text) gives,
+// written back to the file, must give the same again. A read error is a normal outcome.
+template <class ReadError, class Trip>
+int fileRoundTrip(const std::string& path, const uint8_t* data, size_t size, Trip trip, const std::string& what) {
+  writeAll(path, text(data, size));
+  try {
+    const std::string first = trip(path);
+    writeAll(path, first);
+    check(trip(path) == first, what + " changes on a second trip");
+  } catch (const ReadError&) {
+  } catch (const Terminated&) {
+  }
+  return 0;
+}
 
 }  // namespace zy::fuzz
 

@@ -13,12 +13,9 @@ inline int recipeFileHarness(const char* file, const uint8_t* data, size_t size)
   e.clearData();
   // Recipe 1 claims the most items and comment pieces, so that the input file is read through.
   RecipeRecord r;
-  r.recipeNo = 1;
-  r.itemCount = kMaxRecipeItems;
-  r.commentCount = 32767;
-  r.recipeName = "Fuzz";
+  r.recipeNo = 1, r.itemCount = kMaxRecipeItems, r.commentCount = 32767, r.recipeName = "Fuzz";
   writeAll(e.data(kRecipeFile), r.encode());
-  writeAll(e.data(file), std::string(reinterpret_cast<const char*>(data), size));
+  writeAll(e.data(file), text(data, size));
   try {
     scanRecipes(wb, [](long, const RecipeRecord&) {});
     wb.recipeSlotPosition = 1;

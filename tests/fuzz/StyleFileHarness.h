@@ -10,7 +10,7 @@ inline int styleFileHarness(const char* file, const uint8_t* data, size_t size) 
   Env& e = env();
   Workbench& wb = *e.wb;
   e.clearData();
-  writeAll(e.data(file), std::string(reinterpret_cast<const char*>(data), size));
+  writeAll(e.data(file), text(data, size));
   try {
     auto roundTrip = [&] {
       StyleTables t;

@@ -1,5 +1,4 @@
 // Date reading; a date the program writes ("mmm-dd-yyyy") reads back as the same day.
-#include <cmath>
 #include <cstring>
 
 #include "FuzzSupport.h"

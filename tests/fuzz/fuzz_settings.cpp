@@ -4,20 +4,13 @@
 using namespace zy;
 
 ZY_FUZZ_HARNESS(settings) {
-  fuzz::Env& e = fuzz::env();
-  const std::string path = e.file("fuzz.ini");
-  fuzz::writeAll(path, std::string(reinterpret_cast<const char*>(data), size));
-  std::string first, second;
-  {
-    FileSettingsStore s(path);
-    s.write("Fuzz", "Key", "1");
-    first = fuzz::readAll(path);
-  }
-  {
-    FileSettingsStore s(path);
-    s.write("Fuzz", "Key", "1");
-    second = fuzz::readAll(path);
-  }
-  fuzz::check(first == second, "the settings file changes on a second save:\n" + first + "\n---\n" + second);
-  return 0;
+  struct NoReadError {};
+  return fuzz::fileRoundTrip<NoReadError>(
+      fuzz::env().file("fuzz.ini"), data, size,
+      [](const std::string& path) {
+        FileSettingsStore s(path);
+        s.write("Fuzz", "Key", "1");
+        return fuzz::readAll(path);
+      },
+      "the settings file");
 }

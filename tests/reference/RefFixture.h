@@ -11,13 +11,8 @@ inline TopicSource topic(const std::string& title, const std::string& index, con
                          std::vector<TopicImage> images = {}, std::vector<std::string> alsoSee = {},
                          int order = 1000) {
   TopicSource t;
-  t.sourceFile = "topics/" + index + ".txt";
-  t.title = title;
-  t.indexTitle = index;
-  t.body = body;
-  t.images = std::move(images);
-  t.alsoSee = std::move(alsoSee);
-  t.order = order;
+  t.sourceFile = "topics/" + index + ".txt", t.title = title, t.indexTitle = index, t.body = body;
+  t.images = std::move(images), t.alsoSee = std::move(alsoSee), t.order = order;
   return t;
 }
 
@@ -37,9 +32,7 @@ inline std::vector<TopicSource> sampleTopics() {
 
 inline std::vector<BookSource> sampleBooks() {
   BookSource b;
-  b.sourceFile = "books/first.txt";
-  b.name = "First Brew";
-  b.description = "<P>Start here.</P>";
+  b.sourceFile = "books/first.txt", b.name = "First Brew", b.description = "<P>Start here.</P>";
   b.chapters = {{"The Boil", "Boiling"}, {"Hops", "Hops"}};
   return {b};
 }

@@ -1,4 +1,5 @@
-// Backup and restore of the eleven data files.
+// Backup and restore of the eleven data files, also when folders are gone and backups are
+// partial or damaged.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -17,14 +18,23 @@ const char* const kOrder[] = {"ZYRecipe.dat",  "ZYRItems.dat",   "ZYComment.dat"
                               "ZYStyle.dat",   "ZYBatchLog.dat", "ZYInvHops.dat",  "ZYInvMalt.dat",
                               "ZYInvOther.dat", "ZYInvYeast.dat", "ZYInvSupplies.dat"};
 
-FolderPicker confirm(std::vector<std::pair<std::string, std::string>>& asked) {
-  return [&asked](const std::string& title, const std::string& initial) -> std::optional<std::string> {
+// Notes each question (title and proposed folder) and answers `folder`, or the proposed one.
+FolderPicker confirm(std::vector<std::pair<std::string, std::string>>& asked, std::optional<std::string> folder = {}) {
+  return [&asked, folder](const std::string& title, const std::string& initial) -> std::optional<std::string> {
     asked.emplace_back(title, initial);
-    return initial;
+    return folder ? folder : initial;
   };
 }
 
 std::string backupPathSetting(Bench& b) { return b.settings.read("Settings", "Backup Path", "<none>"); }
+
+// Notes the proposed folder and gives `answer`.
+FolderPicker remember(std::string& proposed, std::optional<std::string> answer = {}) {
+  return [&proposed, answer](const std::string&, const std::string& initial) -> std::optional<std::string> {
+    proposed = initial;
+    return answer;
+  };
+}
 
 FolderPicker choose(const std::string& folder) {
   return [folder](const std::string&, const std::string&) -> std::optional<std::string> { return folder; };
@@ -39,32 +49,29 @@ TEST(Backup, ADayIsBackedUpOnceAndOverwrittenOnlyOnRequest) {
 
   EXPECT_EQ(backupAllDatabases(wb, confirm(asked)), BackupOutcome::Done);
   const std::string dated = b.dir.path() + "/Backups/2026-11-22";
-  ASSERT_EQ(asked.size(), 1u);
-  EXPECT_EQ(asked[0].first, "Backup All Zythara Databases");
-  EXPECT_EQ(asked[0].second, dated);
+  EXPECT_EQ(asked, (std::vector<std::pair<std::string, std::string>>{{"Backup All Zythara Databases", dated}}));
   for (const char* f : kOrder) EXPECT_TRUE(fileExists(dated + "/" + f)) << f;
-  EXPECT_EQ(readFile(dated + "/ZYRecipe.dat"), "recipes v1");
-  EXPECT_EQ(readFile(dated + "/ZYInvSupplies.dat"), "supplies");
-  EXPECT_EQ(readFile(dated + "/ZYBatchLog.dat"), "");  // not created yet: empty to the program
+  // A file not created yet is empty to the program.
+  EXPECT_EQ(readFile(dated + "/ZYRecipe.dat") + "|" + readFile(dated + "/ZYInvSupplies.dat") + "|" +
+                readFile(dated + "/ZYBatchLog.dat"),
+            "recipes v1|supplies|");
   EXPECT_EQ(backupPathSetting(b), b.dir.path() + "/Backups");
-  ASSERT_EQ(b.prompter.shown.size(), 1u);
-  EXPECT_EQ(b.prompter.shown[0].text, "The Full Database Backup Has Completed Successfully");
+  const std::string done = "Backup Zythara Databases: The Full Database Backup Has Completed Successfully";
+  EXPECT_EQ(shownLines(b.prompter), std::vector<std::string>{done});
 
   // The second backup of the day asks; No copies nothing.
   writeFile(wb.folder.dataFile("ZYRecipe.dat"), "recipes v2");
   b.prompter.answers = {Answer::No};
   EXPECT_EQ(backupAllDatabases(wb, confirm(asked)), BackupOutcome::Cancelled);
-  ASSERT_EQ(b.prompter.shown.size(), 3u);
-  EXPECT_EQ(b.prompter.shown[1].text, "Backup files already exist in this folder.  Overwrite them?");
-  EXPECT_EQ(b.prompter.shown[1].title, "Backup Zythara Databases");
-  EXPECT_EQ(b.prompter.shown[1].buttons, Buttons::YesNo);
-  EXPECT_EQ(b.prompter.shown[2].text, "Zythara Database Backup Canceled");
-  EXPECT_EQ(readFile(dated + "/ZYRecipe.dat"), "recipes v1");
+  EXPECT_EQ(shownLines(b.prompter),
+            (std::vector<std::string>{done, "Backup Zythara Databases: Backup files already exist in this folder.  Overwrite them?",
+                                      "Backup Zythara Databases: Zythara Database Backup Canceled"}));
+  EXPECT_TRUE(b.prompter.shown[1].buttons == Buttons::YesNo && readFile(dated + "/ZYRecipe.dat") == "recipes v1");
 
   b.prompter.answers = {Answer::Yes};
   EXPECT_EQ(backupAllDatabases(wb, confirm(asked)), BackupOutcome::Done);
   EXPECT_EQ(readFile(dated + "/ZYRecipe.dat"), "recipes v2");
-  EXPECT_EQ(b.prompter.shown.back().text, "The Full Database Backup Has Completed Successfully");
+  EXPECT_EQ(shownLines(b.prompter).back(), done);
 }
 
 TEST(Backup, FoldersThatAreRefusedOrCancelled) {
@@ -73,24 +80,22 @@ TEST(Backup, FoldersThatAreRefusedOrCancelled) {
   writeFile(wb.folder.dataFile("ZYRecipe.dat"), "r");
   // The data folder itself, written another way.
   EXPECT_EQ(backupAllDatabases(wb, choose(b.dir.path() + "/Data/")), BackupOutcome::Refused);
-  ASSERT_EQ(b.prompter.shown.size(), 1u);
-  EXPECT_EQ(b.prompter.shown[0].text, "You Cannot Save Backups to the Source Folder");
-  EXPECT_EQ(b.prompter.shown[0].title, "Invalid Folder Selected");
+  EXPECT_EQ(shownLines(b.prompter),
+            std::vector<std::string>{"Invalid Folder Selected: You Cannot Save Backups to the Source Folder"});
   EXPECT_EQ(backupPathSetting(b), "<none>");
 
   // A cancelled dialog: nothing more.
   FolderPicker cancel = [](const std::string&, const std::string&) -> std::optional<std::string> { return {}; };
-  EXPECT_EQ(backupAllDatabases(wb, cancel), BackupOutcome::Cancelled);
-  EXPECT_EQ(b.prompter.shown.size(), 1u);
+  EXPECT_TRUE(backupAllDatabases(wb, cancel) == BackupOutcome::Cancelled && b.prompter.shown.size() == 1u);
   // Without a picker the prompter's folder dialog is asked (and the script cancels it).
-  EXPECT_EQ(backupAllDatabases(wb), BackupOutcome::Cancelled);
-  EXPECT_EQ(b.prompter.shown.back().title, "Backup All Zythara Databases");
+  EXPECT_TRUE(backupAllDatabases(wb) == BackupOutcome::Cancelled &&
+              b.prompter.shown.back().title == "Backup All Zythara Databases");
 
   // A folder of its own is kept whole; one below a Backups folder is kept up to "/Backups".
   EXPECT_EQ(backupAllDatabases(wb, choose(b.dir.path() + "/mine")), BackupOutcome::Done);
   EXPECT_EQ(backupPathSetting(b), b.dir.path() + "/mine");
-  EXPECT_EQ(backupPathToStore("/home/x/Backups/2026-11-22"), "/home/x/Backups");
-  EXPECT_EQ(backupPathToStore("/home/x/backups/2026-11-22"), "/home/x/backups/2026-11-22");
+  EXPECT_EQ(backupPathToStore("/home/x/Backups/2026-11-22") + "|" + backupPathToStore("/home/x/backups/2026-11-22"),
+            "/home/x/Backups|/home/x/backups/2026-11-22");
   // The next backup starts from the remembered folder.
   std::vector<std::pair<std::string, std::string>> asked;
   backupAllDatabases(wb, confirm(asked));
@@ -104,14 +109,9 @@ TEST(Backup, FilesAreCopiedInTheirOrderUntilOneFails) {
   const std::string target = b.dir.path() + "/blocked";
   fs::create_directories(target + "/ZYStyle.dat");  // the fifth file cannot be written
   EXPECT_THROW(backupAllDatabases(wb, choose(target)), Terminated);
-  for (int i = 0; i < 11; ++i) {
-    std::string p = target + "/" + kOrder[i];
-    if (i < 4) {
-      EXPECT_EQ(readFile(p), kOrder[i]);
-    } else if (i > 4) {
-      EXPECT_FALSE(fs::exists(p)) << p;
-    }
-  }
+  std::string copied;
+  for (const char* f : kOrder) copied += fs::is_regular_file(target + "/" + f) ? readFile(target + "/" + f) + "," : "";
+  EXPECT_EQ(copied, "ZYRecipe.dat,ZYRItems.dat,ZYComment.dat,ZYCategory.dat,");
 }
 
 TEST(Restore, FromABackupFolderWithItsRestartMessage) {
@@ -125,15 +125,12 @@ TEST(Restore, FromABackupFolderWithItsRestartMessage) {
   fs::create_directories(empty);
   writeFile(empty + "/ZYInvHops.dat", "old hops");
   std::vector<std::pair<std::string, std::string>> asked;
-  FolderPicker pickEmpty = [&](const std::string& title, const std::string& initial) -> std::optional<std::string> {
-    asked.emplace_back(title, initial);
-    return empty;
-  };
-  EXPECT_EQ(restoreAllDatabases(wb, pickEmpty), BackupOutcome::Refused);
-  EXPECT_EQ(asked[0].first, "Restore All Zythara Databases");
-  EXPECT_EQ(asked[0].second, b.dir.path() + "/Backups");
-  ASSERT_EQ(b.prompter.shown.size(), 1u);
-  EXPECT_EQ(b.prompter.shown[0].text, "No Backup Files in this Folder, Be Sure to Double-Click the Desired Folder");
+  EXPECT_EQ(restoreAllDatabases(wb, confirm(asked, empty)), BackupOutcome::Refused);
+  EXPECT_EQ(asked, (std::vector<std::pair<std::string, std::string>>{
+                       {"Restore All Zythara Databases", b.dir.path() + "/Backups"}}));
+  EXPECT_EQ(shownLines(b.prompter),
+            std::vector<std::string>{"Restore All Zythara Databases: No Backup Files in this Folder, Be Sure to "
+                                     "Double-Click the Desired Folder"});
   EXPECT_EQ(readFile(wb.folder.dataFile("ZYInvHops.dat")), "current hops");
   EXPECT_EQ(backupPathSetting(b), b.dir.path() + "/Backups");
 
@@ -144,14 +141,67 @@ TEST(Restore, FromABackupFolderWithItsRestartMessage) {
   const std::string record = RecipeRecord{}.encode();
   writeFile(saved + "/ZYRecipe.dat", record);
   EXPECT_EQ(restoreAllDatabases(wb, choose(saved)), BackupOutcome::Done);
-  EXPECT_EQ(readFile(wb.folder.dataFile("ZYRecipe.dat")), record);
-  EXPECT_EQ(readFile(wb.folder.dataFile("ZYInvHops.dat")), "");
+  EXPECT_EQ(readFile(wb.folder.dataFile("ZYRecipe.dat")) + readFile(wb.folder.dataFile("ZYInvHops.dat")), record);
   const std::string before = b.dir.path() + "/Backups/Before Restore 2026-11-22 10.30";
   EXPECT_EQ(b.prompter.shown.back().text,
             "The Full Database Restore Has Completed Successfully\r\n    Restart Zythara to Load Restored Databases"
             "\r\n\r\nThe data files as they were before the restore are kept in " + before);
-  EXPECT_EQ(readFile(before + "/ZYRecipe.dat"), "current");
-  EXPECT_EQ(readFile(before + "/ZYInvHops.dat"), "current hops");
+  EXPECT_EQ(readFile(before + "/ZYRecipe.dat") + "|" + readFile(before + "/ZYInvHops.dat"), "current|current hops");
+}
+
+// When folders are gone and backups are partial or damaged.
+TEST(BackupFaults, AFolderThatCannotBeMadeProposesTheProgramsBackupsAndNeverTheRoot) {
+  Bench b;
+  Workbench& wb = *b.wb;
+  writeFile(b.dir.file("plain-file"), "x");
+  const std::string gone = b.dir.file("plain-file/Backups");  // below a file: cannot be made
+  b.settings.write("Settings", "Backup Path", gone);
+  std::string proposed;
+  EXPECT_EQ(backupAllDatabases(wb, remember(proposed)), BackupOutcome::Cancelled);
+  const std::string fallback = b.dir.path() + "/Backups/2026-11-22";
+  EXPECT_TRUE(proposed == fallback && fs::is_directory(fallback)) << proposed;
+  EXPECT_EQ(shownLines(b.prompter), std::vector<std::string>{"Backup Zythara Databases: The backup folder " + gone +
+                                                             "/2026-11-22 cannot be created or written to; " +
+                                                             fallback + " is proposed instead."});
+
+  // Restore from a stored folder that is gone proposes Backups; the root is never remembered.
+  EXPECT_EQ(restoreAllDatabases(wb, remember(proposed, std::string("/"))), BackupOutcome::Refused);
+  EXPECT_EQ(proposed, b.dir.path() + "/Backups");
+  EXPECT_EQ(b.prompter.shown[1].text,
+            "The backup folder " + gone + " no longer exists; " + b.dir.path() + "/Backups is proposed instead.");
+  EXPECT_EQ(b.settings.read("Settings", "Backup Path", ""), gone);
+}
+
+TEST(RestoreFaults, AMissingOrDamagedFileStopsTheRestoreBeforeAnythingChanges) {
+  const std::string recipe = RecipeRecord{}.encode();
+  std::string badCode = recipe;
+  badCode[recipe.size() - 2] = 0;  // the end code 299 damaged
+  std::string inventory = std::string("\xC8\x00\r", 3) + std::string(70, ' ') + "\x1A";  // a header only
+  const struct { const char* file; std::string bytes; const char* why; } cases[] = {
+      {"ZYInvSupplies.dat", "<missing>", "it is missing"},
+      {"ZYRecipe.dat", recipe + "abc", "its last record is not whole"},
+      {"ZYRecipe.dat", recipe + badCode, "record 2 has invalid control codes"},
+      {"ZYStyle.dat", std::string(188, 'x'), "record 1 has invalid control codes"},
+      {"ZYInvMalt.dat", "junk", "its header is not an inventory header"},
+      {"ZYInvHops.dat", inventory + std::string(10, '\0'), "item 1 is not a whole record with valid control codes"},
+  };
+  for (const auto& c : cases) {
+    Bench b;
+    Workbench& wb = *b.wb;
+    writeFile(wb.folder.dataFile("ZYRecipe.dat"), "current");
+    const std::string saved = b.dir.path() + "/saved";
+    fs::create_directories(saved);
+    for (const char* f : kBackupFiles) writeFile(saved + "/" + f, std::string(f).rfind("ZYInv", 0) == 0 ? inventory : "");
+    writeFile(saved + "/ZYRecipe.dat", recipe);
+    if (c.bytes == "<missing>") fs::remove(saved + "/" + c.file);
+    else writeFile(saved + "/" + c.file, c.bytes);
+    EXPECT_EQ(restoreAllDatabases(wb, choose(saved)), BackupOutcome::Refused);
+    EXPECT_EQ(shownLines(b.prompter).back(), "Restore Zythara Databases: The backup file " + saved + "/" + c.file +
+                                                 " cannot be restored: " + c.why +
+                                                 ". Nothing was restored; your data files are as they were.");
+    EXPECT_EQ(readFile(wb.folder.dataFile("ZYRecipe.dat")), "current") << c.file;
+    EXPECT_FALSE(fs::exists(b.dir.path() + "/Backups/Before Restore 2026-11-22 10.30")) << c.file;
+  }
 }
 
 }  // namespace

@@ -11,8 +11,9 @@
 namespace zy {
 namespace {
 
-BeerStyleRecord style(const std::string& name, int source, double ogLow, double ogHigh, double fgLow, double fgHigh,
-                      double ibuLow, double ibuHigh, double srmLow, double srmHigh, double abvLow, double abvHigh) {
+BeerStyleRecord style(const std::string& name, int source, double ogLow = 0, double ogHigh = 0, double fgLow = 0,
+                      double fgHigh = 0, double ibuLow = 0, double ibuHigh = 0, double srmLow = 0, double srmHigh = 0,
+                      double abvLow = 0, double abvHigh = 0) {
   BeerStyleRecord s;
   s.styleName = name;
   s.source = source;
@@ -34,44 +35,32 @@ std::unique_ptr<StyleTables> tablesOf(std::initializer_list<BeerStyleRecord> sty
 
 std::string describe(const StyleDeviation& d) { return std::string(d.text()) + "/" + d.colorWord(); }
 
-TEST(StyleDeviation, GravityLimitsAreMeasuredFromPointNine) {
-  const auto G = LimitKind::Gravity;
+TEST(StyleDeviation, GravityLimitsFromPointNineOthersByTenPercent) {
+  const auto G = LimitKind::Gravity, P = LimitKind::Plain;
   // 1.045 to 1.055: lower limit (0.145 * 0.9) + 0.9 = 1.0305, upper (0.155 * 1.1) + 0.9 = 1.0705.
   EXPECT_NEAR(styleLowerLimit(1.045, G), 1.0305, 1e-12);
   EXPECT_NEAR(styleUpperLimit(1.055, G), 1.0705, 1e-12);
-  EXPECT_EQ(describe(styleDeviation(1.045, 1.045, 1.055, G)), "OK/green");
-  EXPECT_EQ(describe(styleDeviation(1.055, 1.045, 1.055, G)), "OK/green");
-  EXPECT_EQ(describe(styleDeviation(1.050, 1.045, 1.055, G)), "OK/green");
-  EXPECT_EQ(describe(styleDeviation(1.040, 1.045, 1.055, G)), "Low/yellow");
-  // 1.036 is a near miss with the 0.9 form; ten percent of the points would make it a full miss.
-  EXPECT_EQ(describe(styleDeviation(1.036, 1.045, 1.055, G)), "Low/yellow");
   const double lo = styleLowerLimit(1.045, G), hi = styleUpperLimit(1.055, G);
-  EXPECT_EQ(describe(styleDeviation(lo, 1.045, 1.055, G)), "Low/yellow");
-  EXPECT_EQ(describe(styleDeviation(std::nextafter(lo, 0.0), 1.045, 1.055, G)), "Low/red");
-  EXPECT_EQ(describe(styleDeviation(1.030, 1.045, 1.055, G)), "Low/red");
-  EXPECT_EQ(describe(styleDeviation(std::nextafter(1.055, 2.0), 1.045, 1.055, G)), "High/yellow");
-  EXPECT_EQ(describe(styleDeviation(1.070, 1.045, 1.055, G)), "High/yellow");
-  EXPECT_EQ(describe(styleDeviation(hi, 1.045, 1.055, G)), "High/yellow");
-  EXPECT_EQ(describe(styleDeviation(std::nextafter(hi, 2.0), 1.045, 1.055, G)), "High/red");
-  EXPECT_EQ(describe(styleDeviation(1.071, 1.045, 1.055, G)), "High/red");
-}
-
-TEST(StyleDeviation, PlainLimitsAreTenPercent) {
-  const auto P = LimitKind::Plain;
-  EXPECT_EQ(describe(styleDeviation(20, 20, 30, P)), "OK/green");
-  EXPECT_EQ(describe(styleDeviation(30, 20, 30, P)), "OK/green");
-  EXPECT_EQ(describe(styleDeviation(19.99, 20, 30, P)), "Low/yellow");
-  EXPECT_EQ(describe(styleDeviation(18, 20, 30, P)), "Low/yellow");
-  EXPECT_EQ(describe(styleDeviation(17.99, 20, 30, P)), "Low/red");
-  EXPECT_EQ(describe(styleDeviation(30.01, 20, 30, P)), "High/yellow");
-  EXPECT_EQ(describe(styleDeviation(styleUpperLimit(30, P), 20, 30, P)), "High/yellow");
-  EXPECT_EQ(describe(styleDeviation(33.01, 20, 30, P)), "High/red");
+  // 1.036 is a near miss with the 0.9 form; ten percent of the points would make it a full miss.
   // An upper value of 0 accepts only 0.
-  EXPECT_EQ(describe(styleDeviation(0, 0, 0, P)), "OK/green");
-  EXPECT_EQ(describe(styleDeviation(0.0001, 0, 0, P)), "High/red");
-  EXPECT_EQ((styleDeviation(50, 20, 30, P).color()), (std::array<int, 3>{255, 0, 0}));
-  EXPECT_EQ((styleDeviation(31, 20, 30, P).color()), (std::array<int, 3>{255, 255, 0}));
-  EXPECT_EQ((styleDeviation(25, 20, 30, P).color()), (std::array<int, 3>{0, 255, 0}));
+  const struct { double value, low, high; LimitKind kind; const char* judged; } cases[] = {
+      {1.045, 1.045, 1.055, G, "OK/green"},      {1.055, 1.045, 1.055, G, "OK/green"},
+      {1.050, 1.045, 1.055, G, "OK/green"},      {1.040, 1.045, 1.055, G, "Low/yellow"},
+      {1.036, 1.045, 1.055, G, "Low/yellow"},    {lo, 1.045, 1.055, G, "Low/yellow"},
+      {std::nextafter(lo, 0.0), 1.045, 1.055, G, "Low/red"}, {1.030, 1.045, 1.055, G, "Low/red"},
+      {std::nextafter(1.055, 2.0), 1.045, 1.055, G, "High/yellow"}, {1.070, 1.045, 1.055, G, "High/yellow"},
+      {hi, 1.045, 1.055, G, "High/yellow"},      {std::nextafter(hi, 2.0), 1.045, 1.055, G, "High/red"},
+      {1.071, 1.045, 1.055, G, "High/red"},      {20, 20, 30, P, "OK/green"},
+      {30, 20, 30, P, "OK/green"},               {19.99, 20, 30, P, "Low/yellow"},
+      {18, 20, 30, P, "Low/yellow"},             {17.99, 20, 30, P, "Low/red"},
+      {30.01, 20, 30, P, "High/yellow"},         {styleUpperLimit(30, P), 20, 30, P, "High/yellow"},
+      {33.01, 20, 30, P, "High/red"},            {0, 0, 0, P, "OK/green"},
+      {0.0001, 0, 0, P, "High/red"}};
+  for (const auto& c : cases) EXPECT_EQ(describe(styleDeviation(c.value, c.low, c.high, c.kind)), c.judged) << c.value;
+  using RGB = std::array<int, 3>;
+  EXPECT_EQ(std::vector<RGB>({styleDeviation(50, 20, 30, P).color(), styleDeviation(31, 20, 30, P).color(),
+                              styleDeviation(25, 20, 30, P).color()}),
+            std::vector<RGB>({{255, 0, 0}, {255, 255, 0}, {0, 255, 0}}));
 }
 
 // Pale: all ranges; Stout: dark; Open: an empty name and every range wide.
@@ -87,15 +76,12 @@ TEST(StyleMatch, NearMissesStayAndFullMissesGo) {
   const auto v = RecipeStyleValues::fromDisplay("1.050", "1.012", "19", "5.0", "5.1");
   StyleMatchModel m;
   m.open(*t, v, "Pale Ale");
+  // Every style is tried, also one without a name.
   ASSERT_EQ(m.rows.size(), 2u);
-  EXPECT_EQ(m.rows[0].name, "Pale Ale");
-  EXPECT_EQ(m.rows[0].cells, (std::array<std::string, 5>{"OK", "OK", "Low", "OK", "OK"}));
-  EXPECT_EQ(m.rows[1].name, "");  // every style is tried, also one without a name
-  EXPECT_EQ(m.selected, 0);
-  EXPECT_TRUE(m.cmdSetRecipeEnabled);
+  EXPECT_TRUE(m.selected == 0 && m.cmdSetRecipeEnabled);
   EXPECT_EQ(m.setRecipeStyleText(), "Pale Ale");
-  EXPECT_EQ(m.lines()[0], "Beer Style\tO.G.\tF.G.\tBitter\tColor\tAlc %");
-  EXPECT_EQ(m.lines()[1], "Pale Ale\tOK\tOK\tLow\tOK\tOK");
+  EXPECT_EQ(m.lines(), (std::vector<std::string>{"Beer Style\tO.G.\tF.G.\tBitter\tColor\tAlc %",
+                                                "Pale Ale\tOK\tOK\tLow\tOK\tOK", "\tOK\tOK\tOK\tOK\tOK"}));
 
   // The editor's filter plays no part.
   t->StyleSourceShown = {false, false, false};
@@ -103,30 +89,25 @@ TEST(StyleMatch, NearMissesStayAndFullMissesGo) {
   EXPECT_EQ(buildStyleMatchRows(*t, v).size(), 2u);
 
   test::ScriptedPrompter p;
-  EXPECT_EQ(m.doubleClick(0, p), "Pale Ale");
-  EXPECT_TRUE(p.shown.empty());
+  EXPECT_TRUE(m.doubleClick(0, p) == "Pale Ale" && p.shown.empty());
 }
 
 TEST(StyleMatch, NoMatchGivesOneRowAndADisabledButton) {
   auto empty = tablesOf({});
   StyleMatchModel m;
   m.open(*empty, RecipeStyleValues{1.05, 1.01, 20, 5, 5}, "");
-  ASSERT_EQ(m.rows.size(), 1u);
-  EXPECT_EQ(m.rows[0].name, "No Matching Styles Found");
-  EXPECT_FALSE(m.cmdSetRecipeEnabled);
-  EXPECT_EQ(m.setRecipeStyleText(), std::nullopt);
+  EXPECT_EQ(m.lines(), (std::vector<std::string>{"Beer Style\tO.G.\tF.G.\tBitter\tColor\tAlc %",
+                                                "No Matching Styles Found\t\t\t\t\t"}));
+  EXPECT_FALSE(m.cmdSetRecipeEnabled || m.setRecipeStyleText());
   test::ScriptedPrompter p;
   EXPECT_EQ(m.doubleClick(0, p), std::nullopt);
-  ASSERT_EQ(p.shown.size(), 1u);
-  EXPECT_EQ(p.shown[0].text, "No Matching Beer Styles Found");
-  EXPECT_EQ(p.shown[0].title, "Matching Beer Styles");
+  EXPECT_EQ(test::shownLines(p), std::vector<std::string>{"Matching Beer Styles: No Matching Beer Styles Found"});
 
   // A recipe without malts shows "N/A": no style passes the gravity check with 0.
   auto t = threeStyles();
   m.open(*t, RecipeStyleValues::fromDisplay("N/A", "N/A", "N/A", "N/A", "N/A"), "");
-  ASSERT_EQ(m.rows.size(), 1u);
-  EXPECT_EQ(m.rows[0].name, "No Matching Styles Found");
-  EXPECT_EQ(m.lines()[1], "No Matching Styles Found\t\t\t\t\t");
+  EXPECT_EQ(m.lines().size(), 2u);
+  EXPECT_EQ(m.lines().at(1), "No Matching Styles Found\t\t\t\t\t");
 }
 
 TEST(StyleMatch, SortsByNameOrByEveryColumnDescending) {
@@ -162,8 +143,7 @@ TEST(StyleMatch, SortsByNameOrByEveryColumnDescending) {
 }
 
 TEST(RecipeStyleList, BracketedEntriesOnTopThenSortedFilteredStyles) {
-  auto t = tablesOf({style(" Stout ", 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0), style("pale ALE", 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0),
-                     style("Amber Ale", 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0), style("Bock", 7, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0)});
+  auto t = tablesOf({style(" Stout ", 2), style("pale ALE", 1), style("Amber Ale", 0), style("Bock", 7)});
   auto texts = [](const std::vector<StyleListEntry>& l) {
     std::string s;
     for (const auto& e : l) s += e.text + "=" + std::to_string(e.data) + ";";
@@ -183,70 +163,54 @@ TEST(RecipeStyleList, BracketedEntriesOnTopThenSortedFilteredStyles) {
 
   // Choosing and opening.
   const auto list = buildRecipeStyleList(*t);
-  EXPECT_EQ(chooseRecipeStyle(*t, list, 4), "Stout");
-  EXPECT_EQ(t->CurrentStyleIndex, 0);
-  EXPECT_EQ(chooseRecipeStyle(*t, list, 1), "");
-  EXPECT_EQ(t->CurrentStyleIndex, -1);
+  EXPECT_EQ(std::vector<std::string>({chooseRecipeStyle(*t, list, 4), std::to_string(t->CurrentStyleIndex),
+                                      chooseRecipeStyle(*t, list, 1), std::to_string(t->CurrentStyleIndex)}),
+            std::vector<std::string>({"Stout", "0", "", "-1"}));
   test::ScriptedPrompter p;
-  EXPECT_EQ(selectRecipeStyle(*t, list, "Amber Ale", p), 2);
-  EXPECT_EQ(t->CurrentStyleIndex, 2);
-  EXPECT_EQ(selectRecipeStyle(*t, list, "", p), 1);
-  EXPECT_EQ(t->CurrentStyleIndex, -1);
-  EXPECT_TRUE(p.shown.empty());
-  EXPECT_EQ(selectRecipeStyle(*t, list, "Kellerbier", p), 0);
-  EXPECT_EQ(t->CurrentStyleIndex, -1);
-  ASSERT_EQ(p.shown.size(), 1u);
-  EXPECT_EQ(p.shown[0].text, "Beer Style 'Kellerbier' is Not Recognized by Zythara");
-  EXPECT_EQ(p.shown[0].title, "Unknown Beer Style");
+  // The list entry chosen and the style in force for a known, an empty and an unknown name.
+  std::vector<int> chosen;
+  for (const char* name : {"Amber Ale", "", "Kellerbier"})
+    chosen.insert(chosen.end(), {selectRecipeStyle(*t, list, name, p), t->CurrentStyleIndex});
+  EXPECT_EQ(chosen, std::vector<int>({2, 2, 1, -1, 0, -1}));
+  EXPECT_EQ(test::shownLines(p),
+            std::vector<std::string>{"Unknown Beer Style: Beer Style 'Kellerbier' is Not Recognized by Zythara"});
 }
 
 TEST(StyleStatistics, CountsBySourceWithIllegalSourcesInTheTotalOnly) {
-  auto t = tablesOf({style("a", 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0), style("b", 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0),
-                     style("c", 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0), style("d", 9, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0),
-                     style("e", 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0)});
+  auto t = tablesOf({style("a", 0), style("b", 2), style("c", 2), style("d", 9), style("e", 1)});
   t->BeerCategoryCount = 3;
-  const auto lines = computeStyleStatistics(*t).lines();
-  ASSERT_EQ(lines.size(), 5u);
-  EXPECT_EQ(lines[0], "Number of Beer Categories Loaded: 3");
-  EXPECT_EQ(lines[1], "Total Number of Beer Styles Loaded: 5");
-  EXPECT_EQ(lines[2], "Custom Beer Styles Loaded: 1");
-  EXPECT_EQ(lines[3], "AOB Beer Styles Loaded: 1");
-  EXPECT_EQ(lines[4], "BJCP Beer Styles Loaded: 2");
+  EXPECT_EQ(computeStyleStatistics(*t).lines(),
+            (std::vector<std::string>{"Number of Beer Categories Loaded: 3", "Total Number of Beer Styles Loaded: 5",
+                                      "Custom Beer Styles Loaded: 1", "AOB Beer Styles Loaded: 1",
+                                      "BJCP Beer Styles Loaded: 2"}));
 }
 
 TEST(StyleLookups, CategoryLabelsAndKeySearches) {
   StyleTables t;
   auto cat = [&](int row, const char* id, const char* name, const char* sub, int key) {
-    t.BeerCategories[row].id = id;
-    t.BeerCategories[row].category = name;
-    t.BeerCategories[row].subCategory = sub;
-    t.BeerCategories[row].categoryIndex = key;
+    BeerCategoryRecord& c = t.BeerCategories[row];
+    c.id = id, c.category = name, c.subCategory = sub, c.categoryIndex = key;
   };
   cat(0, " 1A ", " Light Lager ", " Lite ", 5);
   cat(1, "", "Stout", "", 7);
   cat(2, "", "Twin", "", 7);
   t.BeerCategoryCount = 3;
-  EXPECT_EQ(categoryLabel(t, 0, false), "1A Light Lager - Lite");
-  EXPECT_EQ(categoryLabel(t, 1, false), "Stout");
-  EXPECT_EQ(categoryLabel(t, 5, true), "1A Light Lager - Lite");
-  EXPECT_EQ(categoryLabel(t, 7, true), "Stout");  // first match wins
-  EXPECT_EQ(categoryLabel(t, 8, true), "<None>");
-  EXPECT_EQ(categoryLabel(t, -1, false), "<None>");
-  EXPECT_EQ(categoryLabel(t, 500, false), "<None>");
-  EXPECT_EQ(findCategoryRow(t, 7), 1);
-  EXPECT_EQ(findCategoryRow(t, 99), -1);
+  // By row, then by key (the first match wins), and nothing for a row or key not there.
+  EXPECT_EQ(std::vector<std::string>({categoryLabel(t, 0, false), categoryLabel(t, 1, false), categoryLabel(t, 5, true),
+                                      categoryLabel(t, 7, true), categoryLabel(t, 8, true), categoryLabel(t, -1, false),
+                                      categoryLabel(t, 500, false)}),
+            std::vector<std::string>({"1A Light Lager - Lite", "Stout", "1A Light Lager - Lite", "Stout", "<None>",
+                                      "<None>", "<None>"}));
   t.BeerStyles[0].styleIndex = 4;
   t.BeerStyles[1].styleIndex = 4;
   t.BeerStyleCount = 2;
-  EXPECT_EQ(findStyleRow(t, 4), 0);
-  EXPECT_EQ(findStyleRow(t, 0), -1);
+  EXPECT_EQ(std::vector<int>({findCategoryRow(t, 7), findCategoryRow(t, 99), findStyleRow(t, 4), findStyleRow(t, 0)}),
+            std::vector<int>({1, -1, 0, -1}));
 
-  EXPECT_FALSE(rangeOutOfBounds(1.040, 1.050, 1.0, 1.2));
-  EXPECT_FALSE(rangeOutOfBounds(1.0, 1.2, 1.0, 1.2));
-  EXPECT_FALSE(rangeOutOfBounds(5, 5, 0, 10));
-  EXPECT_TRUE(rangeOutOfBounds(1.050, 1.040, 1.0, 1.2));
-  EXPECT_TRUE(rangeOutOfBounds(0.99, 1.05, 1.0, 1.2));
-  EXPECT_TRUE(rangeOutOfBounds(1.05, 1.21, 1.0, 1.2));
+  EXPECT_EQ(std::vector<bool>({rangeOutOfBounds(1.040, 1.050, 1.0, 1.2), rangeOutOfBounds(1.0, 1.2, 1.0, 1.2),
+                               rangeOutOfBounds(5, 5, 0, 10), rangeOutOfBounds(1.050, 1.040, 1.0, 1.2),
+                               rangeOutOfBounds(0.99, 1.05, 1.0, 1.2), rangeOutOfBounds(1.05, 1.21, 1.0, 1.2)}),
+            std::vector<bool>({false, false, false, true, true, true}));
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
-// The shipped style sheets turned into the style files, and the sheet reader's refusals.
+// The shipped style sheets and descriptions turned into the style files, and the refusals of
+// the sheet reader and the description merge.
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -6,13 +7,14 @@
 #include <vector>
 
 #include "core/text.h"
-#include "styles/StyleMatch.h"
 #include "styles/StyleSheets.h"
 #include "styles/StyleStore.h"
 #include "support/TestSupport.h"
 
 namespace zy {
 namespace {
+
+const std::string kSheets = std::string(ZY_SOURCE_DIR) + "/data/styles/";
 
 const BeerStyleRecord* byName(const StyleTables& t, const std::string& name) {
   for (int i = 0; i < t.BeerStyleCount; ++i)
@@ -30,65 +32,42 @@ std::vector<std::vector<std::string>> sheetRows(const std::string& path) {
 }
 
 TEST(ShippedStyles, SheetsBuildFilesThatLoadWithoutAWord) {
-  const std::string dir = std::string(ZY_SOURCE_DIR) + "/data/styles/";
   auto t = std::make_unique<StyleTables>();
   std::string error;
-  ASSERT_TRUE(buildStyleTablesFromSheets(test::readFile(dir + "categories.csv"), test::readFile(dir + "styles.csv"),
+  ASSERT_TRUE(buildStyleTablesFromSheets(test::readFile(kSheets + "categories.csv"), test::readFile(kSheets + "styles.csv"),
                                          *t, error))
       << error;
-  EXPECT_EQ(t->BeerCategoryCount, 46);
-  EXPECT_EQ(t->BeerStyleCount, 237);
+  EXPECT_EQ(std::vector<int>({t->BeerCategoryCount, t->BeerStyleCount}), std::vector<int>({46, 237}));
 
   test::Bench b;
   writeStyleFiles(*t, b.wb->folder.dataFile(kCategoryFile), b.wb->folder.dataFile(kStyleFile));
-  EXPECT_EQ(test::readFile(b.wb->folder.dataFile(kCategoryFile)).size(), 46u * 146u);
-  EXPECT_EQ(test::readFile(b.wb->folder.dataFile(kStyleFile)).size(), 237u * 190u);  // empty comments
+  EXPECT_EQ(std::vector<size_t>({test::readFile(b.wb->folder.dataFile(kCategoryFile)).size(),
+                                 test::readFile(b.wb->folder.dataFile(kStyleFile)).size()}),
+            std::vector<size_t>({46u * 146u, 237u * 190u}));  // empty comments
   ASSERT_TRUE(LoadBeerStyles(*b.wb));
   EXPECT_TRUE(b.prompter.shown.empty());
   const StyleTables& s = b.wb->styles;
 
-  // Names in Windows-1252, the source codes, the category keys.
+  // The category labels of a BJCP and an AOB style (the rows below check every other field).
   const BeerStyleRecord* koelsch = byName(s, "K\xF6lsch");
-  ASSERT_NE(koelsch, nullptr);
-  EXPECT_EQ(koelsch->source, STYLE_SOURCE_BJCP);
-  EXPECT_EQ(trim(koelsch->styleId), "5B");
-  EXPECT_EQ(categoryLabel(s, koelsch->categoryIndex, true), "5 Pale Bitter European Beer");
-  EXPECT_DOUBLE_EQ(koelsch->ogLow, 1.044);
-  EXPECT_DOUBLE_EQ(koelsch->srmLow, 3.5);
-  EXPECT_NE(byName(s, "M\xE4rzen"), nullptr);
   const BeerStyleRecord* esb = byName(s, "Extra Special Bitter");
-  ASSERT_NE(esb, nullptr);
-  EXPECT_EQ(esb->source, STYLE_SOURCE_AOB);
-  EXPECT_EQ(categoryLabel(s, esb->categoryIndex, true), "1 British Origin Ale Styles - Ale Styles");
-  // A quoted name with commas, and a range the guideline leaves open stored as 0 to 0.
-  const BeerStyleRecord* spice = byName(s, "Spice, Herb, or Vegetable Beer");
-  ASSERT_NE(spice, nullptr);
-  EXPECT_EQ(spice->ogLow, 0.0);
-  EXPECT_EQ(spice->alcoholHigh, 0.0);
-  EXPECT_EQ(spice->comments, "");
-  const BeerStyleRecord* stout = byName(s, "Classic Irish-Style Dry Stout");
-  ASSERT_NE(stout, nullptr);
-  EXPECT_EQ(stout->srmLow, 0.0);
-  EXPECT_EQ(stout->srmHigh, 0.0);
-  EXPECT_GT(stout->ogLow, 1.0);
+  ASSERT_TRUE(koelsch && esb);
+  EXPECT_EQ(categoryLabel(s, koelsch->categoryIndex, true) + "|" + categoryLabel(s, esb->categoryIndex, true),
+            "5 Pale Bitter European Beer|1 British Origin Ale Styles - Ale Styles");
 
-  const StyleStatistics st = computeStyleStatistics(s);
-  EXPECT_EQ(st.aob, 98);
-  EXPECT_EQ(st.bjcp, 139);
-
-  // Every line of both sheets lands in its row of the files, in sheet order.
-  const auto cats = sheetRows(dir + "categories.csv");
+  // Every line of both sheets lands in its row of the files, in sheet order: names in
+  // Windows-1252, quoted names with commas, and a range the guideline leaves open as 0 to 0.
+  const auto cats = sheetRows(kSheets + "categories.csv");
   ASSERT_EQ(static_cast<int>(cats.size()), s.BeerCategoryCount);
   for (size_t i = 0; i < cats.size(); ++i) {
     const auto& c = cats[i];
     ASSERT_EQ(c.size(), 4u);
     const BeerCategoryRecord& r = s.BeerCategories[i];
-    EXPECT_EQ(styleSourceName(r.source), c[0]) << i;
-    EXPECT_EQ(trim(r.id), c[1]) << i;
-    EXPECT_EQ(cp1252ToUtf8(trim(r.category)), c[2]) << i;
-    EXPECT_EQ(cp1252ToUtf8(trim(r.subCategory)), c[3]) << i;
+    EXPECT_EQ(std::vector<std::string>({styleSourceName(r.source), trim(r.id), cp1252ToUtf8(trim(r.category)),
+                                        cp1252ToUtf8(trim(r.subCategory))}),
+              c) << i;
   }
-  const auto styles = sheetRows(dir + "styles.csv");
+  const auto styles = sheetRows(kSheets + "styles.csv");
   ASSERT_EQ(static_cast<int>(styles.size()), s.BeerStyleCount);
   for (size_t i = 0; i < styles.size(); ++i) {
     const auto& c = styles[i];
@@ -96,10 +75,9 @@ TEST(ShippedStyles, SheetsBuildFilesThatLoadWithoutAWord) {
     const BeerStyleRecord& r = s.BeerStyles[i];
     EXPECT_EQ(styleSourceName(r.source), c[0]) << i;
     const BeerCategoryRecord& cat = s.BeerCategories[static_cast<size_t>(findCategoryRow(s, r.categoryIndex))];
-    EXPECT_EQ(trim(cat.id), c[1]) << i;
     EXPECT_EQ(cat.source, r.source) << i;
-    EXPECT_EQ(trim(r.styleId), c[2]) << i;
-    EXPECT_EQ(cp1252ToUtf8(trim(r.styleName)), c[3]) << i;
+    EXPECT_EQ(std::vector<std::string>({trim(cat.id), trim(r.styleId), cp1252ToUtf8(trim(r.styleName))}),
+              std::vector<std::string>(c.begin() + 1, c.begin() + 4)) << i;
     const double ranges[10] = {r.ogLow, r.ogHigh, r.fgLow, r.fgHigh, r.ibuLow, r.ibuHigh,
                                r.srmLow, r.srmHigh, r.alcoholLow, r.alcoholHigh};
     for (size_t k = 0; k < 10; ++k) EXPECT_EQ(ranges[k], c[4 + k].empty() ? 0.0 : std::stod(c[4 + k])) << i << " " << k;
@@ -114,9 +92,9 @@ TEST(ShippedStyles, SheetsThatDoNotFitAreRefusedWithTheirLine) {
   auto t = std::make_unique<StyleTables>();
   std::string error;
   ASSERT_TRUE(buildStyleTablesFromSheets(cats, head + "AOB,1,9,\"Say \"\"Hi\"\"\",1,2,1,1,,,3,4,5,6\r\n", *t, error));
+  // The AOB category, not the BJCP one with the same id; an open range as 0.
   EXPECT_EQ(trim(t->BeerStyles[0].styleName), "Say \"Hi\"");
-  EXPECT_EQ(t->BeerStyles[0].categoryIndex, 1);  // the AOB category, not the BJCP one with the same id
-  EXPECT_EQ(t->BeerStyles[0].ibuHigh, 0.0);
+  EXPECT_TRUE(t->BeerStyles[0].categoryIndex == 1 && t->BeerStyles[0].ibuHigh == 0.0);
 
   EXPECT_FALSE(buildStyleTablesFromSheets(cats, head + "BJCP,1,1A,X,a,2,1,1,1,1,1,1,1,1\n", *t, error));
   EXPECT_EQ(error, "styles line 2: bad range a to 2");
@@ -129,6 +107,52 @@ TEST(ShippedStyles, SheetsThatDoNotFitAreRefusedWithTheirLine) {
   for (int i = 0; i < 251; ++i) many += "BJCP,1,1A,X,1,2,1,1,1,1,1,1,1,1\n";
   EXPECT_FALSE(buildStyleTablesFromSheets(cats, many, *t, error));
   EXPECT_EQ(error, "styles line 252: more than 250 styles");
+}
+
+// The style descriptions shipped in the comment blocks, and the refusals of the merge.
+TEST(StyleDescriptions, EveryShippedStyleHasAShortDescription) {
+  auto t = std::make_unique<StyleTables>();
+  std::string error;
+  ASSERT_TRUE(buildStyleTablesFromSheets(test::readFile(kSheets + "categories.csv"), test::readFile(kSheets + "styles.csv"),
+                                         *t, error))
+      << error;
+  ASSERT_TRUE(mergeStyleDescriptions(test::readFile(kSheets + "descriptions.csv"), *t, error)) << error;
+  for (int i = 0; i < t->BeerStyleCount; ++i) {
+    const BeerStyleRecord& s = t->BeerStyles[static_cast<size_t>(i)];
+    const BeerCategoryRecord& c = t->BeerCategories[static_cast<size_t>(s.categoryIndex)];
+    if (trim(c.category).ends_with("Mead")) continue;  // meads are not described
+    const std::string name = trim(s.styleName);
+    // Two to four sentences: count the full stops that end one.
+    const size_t stops = split(s.comments + " ", '.').size() - 1;
+    EXPECT_TRUE(stops >= 2 && stops <= 4 && s.comments.size() < 1000) << name << ": " << s.comments;
+  }
+}
+
+TEST(StyleDescriptions, RowsThatDoNotFitAreRefusedWithTheirStyle) {
+  const std::string categories = "h\nBJCP,1,Standard American Beer,\n";
+  const std::string styles = "h\nBJCP,1,1A,American Lager,,,,,,,,,,\n";
+  const struct {
+    std::string sheet, error;
+  } cases[] = {
+      {"h\nBJCP,Pale Lagerr,Crisp.\n", "descriptions line 2: no style BJCP Pale Lagerr"},
+      {"h\nAOB,American Lager,Crisp.\n", "descriptions line 2: no style AOB American Lager"},
+      {"h\nBJCP,American Lager,Crisp.\nBJCP,American Lager,Again.\n",
+       "descriptions line 3: a second description for American Lager"},
+      {"h\nBJCP,American Lager, \n", "descriptions line 2: the description of American Lager is empty or too long"},
+      {"h\nBJCP,American Lager\n", "descriptions line 2: expected 3 cells"},
+  };
+  for (const auto& c : cases) {
+    auto t = std::make_unique<StyleTables>();
+    std::string error;
+    ASSERT_TRUE(buildStyleTablesFromSheets(categories, styles, *t, error)) << error;
+    EXPECT_FALSE(mergeStyleDescriptions(c.sheet, *t, error));
+    EXPECT_EQ(error, c.error);
+  }
+  auto t = std::make_unique<StyleTables>();
+  std::string error;
+  ASSERT_TRUE(buildStyleTablesFromSheets(categories, styles, *t, error));
+  ASSERT_TRUE(mergeStyleDescriptions("h\nBJCP,American Lager,\"Pale, crisp, \"\"clean\"\".\"\n", *t, error));
+  EXPECT_EQ(t->BeerStyles[0].comments, "Pale, crisp, \"clean\".");
 }
 
 }  // namespace

@@ -2,9 +2,10 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
+#include <iterator>
 
 #include "core/dates.h"
 #include "core/measures.h"
@@ -36,21 +37,8 @@ std::optional<std::string> ScriptedPrompter::input(const std::string& prompt, co
   return nextText(initial);
 }
 
-std::optional<std::string> ScriptedPrompter::openFile(const std::string& title, const std::string&,
-                                                      const std::string&) {
-  shown.push_back({"", title, Icon::None, Buttons::OKCancel});
-  if (texts.empty()) return std::nullopt;
-  return nextText("");
-}
-
-std::optional<std::string> ScriptedPrompter::saveFile(const std::string& title, const std::string&,
-                                                      const std::string&) {
-  shown.push_back({"", title, Icon::None, Buttons::OKCancel});
-  if (texts.empty()) return std::nullopt;
-  return nextText("");
-}
-
-std::optional<std::string> ScriptedPrompter::chooseFolder(const std::string& title, const std::string&) {
+// A file or folder dialog: noted by its title; with no text left, a Cancel.
+std::optional<std::string> ScriptedPrompter::dialog(const std::string& title) {
   shown.push_back({"", title, Icon::None, Buttons::OKCancel});
   if (texts.empty()) return std::nullopt;
   return nextText("");
@@ -79,14 +67,8 @@ Bench::Bench() : clock(serialFromCivil(2026, 11, 22, 10, 30, 0)) {
 RecipeItemRecord makeItem(int kind, const std::string& name, double qty, int units, double cost, double rating,
                           double detail, int mash) {
   RecipeItemRecord it;
-  it.itemKind = kind;
-  it.itemName = name;
-  it.quantity = qty;
-  it.quantityUnits = units;
-  it.unitCost = cost;
-  it.rating = rating;
-  it.detail = detail;
-  it.mashFlag = mash;
+  it.itemKind = kind, it.itemName = name, it.quantity = qty, it.quantityUnits = units, it.unitCost = cost;
+  it.rating = rating, it.detail = detail, it.mashFlag = mash;
   return it;
 }
 
@@ -94,13 +76,9 @@ bool storeAmber(Workbench& wb, int no, const std::string& name, const std::strin
                 const std::function<void(CurrentRecipe&)>& extra) {
   newRecipeRecord(wb);
   CurrentRecipe& cur = wb.recipe;
-  cur.rec.recipeNo = no;
-  cur.rec.recipeName = name;
-  cur.rec.beerStyle = style;
-  cur.rec.volumeUnits = US_GAL_CONST;
-  cur.rec.fermentVolume = cur.rec.boilVolume = 5;
-  cur.rec.mashType = 2;
-  cur.rec.mashEfficiency = 75;
+  RecipeRecord& r = cur.rec;
+  r.recipeNo = no, r.recipeName = name, r.beerStyle = style, r.volumeUnits = US_GAL_CONST;
+  r.fermentVolume = r.boilVolume = 5, r.mashType = 2, r.mashEfficiency = 75;
   cur.items[0] = makeItem(KIND_MALT, "Pale Malt", 8, UNIT_LBS, 1.10, 1.036, 3, -1);
   cur.items[1] = makeItem(KIND_MALT, "Crystal 60", 1, UNIT_LBS, 1.60, 1.034, 60, 0);
   cur.items[2] = makeItem(KIND_HOPS, "Cascade", 1, UNIT_OZ, 1.25, 5.5, 60);
@@ -121,22 +99,37 @@ std::vector<std::string> shownLines(const ScriptedPrompter& p) {
 
 std::string readFile(const std::string& path) {
   std::ifstream f(path, std::ios::binary);
-  std::stringstream ss;
-  ss << f.rdbuf();
-  return ss.str();
+  return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
 }
 
-void writeFile(const std::string& path, const std::string& bytes) {
-  std::ofstream f(path, std::ios::binary | std::ios::trunc);
-  f << bytes;
-}
+void writeFile(const std::string& path, const std::string& bytes) { std::ofstream(path, std::ios::binary) << bytes; }
 
-std::vector<std::string> readLines(const std::string& path) {
-  std::vector<std::string> lines = split(readFile(path), '\n');
+std::vector<std::string> readLines(const std::string& path) { return textLines(readFile(path)); }
+
+std::vector<std::string> textLines(const std::string& text) {
+  std::vector<std::string> lines = split(text, '\n');
   if (!lines.empty() && lines.back().empty()) lines.pop_back();
   for (auto& l : lines)
     if (!l.empty() && l.back() == '\r') l.pop_back();
   return lines;
+}
+
+std::string le16(int v) { return std::string{static_cast<char>(v & 0xFF), static_cast<char>((v >> 8) & 0xFF)}; }
+
+std::string le64(double v) {
+  uint64_t u;
+  std::memcpy(&u, &v, 8);
+  std::string s(8, '\0');
+  for (int i = 0; i < 8; ++i) s[static_cast<size_t>(i)] = static_cast<char>((u >> (8 * i)) & 0xFF);
+  return s;
+}
+
+std::string padded(const std::string& text, size_t width) { return (text + std::string(width, ' ')).substr(0, width); }
+
+std::string repeated(const std::string& s, int n) {
+  std::string r;
+  for (int i = 0; i < n; ++i) r += s;
+  return r;
 }
 
 void patchRecord(const std::string& path, size_t length, long no, const std::function<void(std::string&)>& edit) {

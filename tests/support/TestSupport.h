@@ -25,11 +25,13 @@ class ScriptedPrompter : public Prompter {
                  Answer defaultAnswer) override;
   std::optional<std::string> input(const std::string& prompt, const std::string& title,
                                    const std::string& initial) override;
-  std::optional<std::string> openFile(const std::string& title, const std::string& filter,
-                                      const std::string& initialPath) override;
-  std::optional<std::string> saveFile(const std::string& title, const std::string& filter,
-                                      const std::string& initialPath) override;
-  std::optional<std::string> chooseFolder(const std::string& title, const std::string& initialPath) override;
+  std::optional<std::string> openFile(const std::string& title, const std::string&, const std::string&) override {
+    return dialog(title);
+  }
+  std::optional<std::string> saveFile(const std::string& title, const std::string&, const std::string&) override {
+    return dialog(title);
+  }
+  std::optional<std::string> chooseFolder(const std::string& title, const std::string&) override { return dialog(title); }
   void beep() override { ++beeps; }
 
   // Answers given in turn to questions (message boxes with more than an OK button); when none
@@ -42,6 +44,7 @@ class ScriptedPrompter : public Prompter {
 
  private:
   std::optional<std::string> nextText(const std::string& fallback);
+  std::optional<std::string> dialog(const std::string& title);
 };
 
 // A fresh folder below the system's temporary folder, removed with the object.
@@ -85,6 +88,16 @@ std::vector<std::string> shownLines(const ScriptedPrompter& p);
 std::string readFile(const std::string& path);
 void writeFile(const std::string& path, const std::string& bytes);
 std::vector<std::string> readLines(const std::string& path);
+// The lines of a text, without their line ends (LF or CR LF) and without an empty last line.
+std::vector<std::string> textLines(const std::string& text);
+// Record bytes written by hand, independent of the record code: a little-endian 16-bit number,
+// a little-endian 8-byte double, a text padded with blanks (or cut) to its width.
+std::string le16(int v);
+std::string le64(double v);
+std::string padded(const std::string& text, size_t width);
+// Repeats `s` `n` times.
+std::string repeated(const std::string& s, int n);
+
 // Rewrites the bytes of record `no` (1-based) of a file of `length`-byte records through `edit`.
 void patchRecord(const std::string& path, size_t length, long no, const std::function<void(std::string&)>& edit);
 

@@ -1,3 +1,4 @@
+// The verbs over stored recipes: what the editor shows and what each calculator prints.
 #include <gtest/gtest.h>
 
 #include "cli/CliRunner.h"
@@ -10,15 +11,8 @@ using namespace zy::test;
 
 namespace {
 // A program folder with one style and recipe 1: a pale ale with mash steps and a salt.
-struct CalcFiles {
-  CliHome home;
-  MemorySettingsStore settings;
-  ScriptedPrompter prompter;
-  FixedClock clock{46000.0};
-  Workbench wb{home.dir.path(), settings, prompter, clock};
-
+struct CalcFiles : CliBench {
   CalcFiles() {
-    wb.errors.setTerminationHook([](int n) { throw Terminated(n); });
     BeerStyleRecord& s = wb.styles.BeerStyles[0];
     s.source = STYLE_SOURCE_BJCP;
     s.styleName = "Dry Stout";
@@ -30,14 +24,9 @@ struct CalcFiles {
 
     newRecipeRecord(wb);
     CurrentRecipe& c = wb.recipe;
-    c.rec.recipeNo = 1;
-    c.rec.recipeName = "Pale";
-    c.rec.volumeUnits = US_GAL_CONST;
-    c.rec.fermentVolume = 5;
-    c.rec.boilVolume = 6;
-    c.rec.boilTime = 60;
-    c.rec.mashType = 3;
-    c.rec.mashStepTime = {30, 60, 10};
+    RecipeRecord& r = c.rec;
+    r.recipeNo = 1, r.recipeName = "Pale", r.volumeUnits = US_GAL_CONST, r.fermentVolume = 5, r.boilVolume = 6;
+    r.boilTime = 60, r.mashType = 3, r.mashStepTime = {30, 60, 10};
     c.rec.mashStepTemp = {122, 152, 170};
     c.rec.mashStepComment = {"Protein Rest", "Saccharification Rest", "Mash Out"};
     c.items[0] = makeItem(KIND_MALT, "Pale Malt", 8, UNIT_LBS, 1.10, 1.036, 3, -1);
@@ -85,9 +74,57 @@ TEST(CalculatorVerbs, EachVerbPrintsItsLines) {
        "usage: zythara-cli formulate N --og G --color C [--coarse]\n"},
   };
   for (const Case& c : cases) {
-    CliResult r = f.home.run(c.args);
-    EXPECT_EQ(r.out, c.out) << c.args[0];
-    EXPECT_EQ(r.err, c.err) << c.args[0];
-    EXPECT_EQ(r.status, c.err.empty() || c.err[0] == '[' ? 0 : 2) << c.args[0];
+    EXPECT_EQ(f.home.run(c.args).all(), std::to_string(c.err.empty() || c.err[0] == '[' ? 0 : 2) + "|" + c.out + "|" + c.err)
+        << c.args[0];
   }
+}
+
+namespace {
+// Writes the data files of the command line's program folder through the stores.
+struct Files : CliBench {
+  Files() {
+    StyleTables& t = wb.styles;
+    t.BeerCategories[0].category = "Amber Ales";
+    t.BeerCategoryCount = 1;
+    auto style = [&](int row, const char* name, double og1, double og2, double ibu1, double ibu2) {
+      BeerStyleRecord& s = t.BeerStyles[static_cast<size_t>(row)];
+      s.source = STYLE_SOURCE_BJCP;
+      s.styleName = name;
+      s.ogLow = og1, s.ogHigh = og2, s.fgLow = 1.008, s.fgHigh = 1.016;
+      s.ibuLow = ibu1, s.ibuHigh = ibu2, s.srmLow = 10, s.srmHigh = 17, s.alcoholLow = 4.5, s.alcoholHigh = 5.7;
+    };
+    style(0, "American Amber Ale", 1.043, 1.056, 20, 40);
+    style(1, "Hoppy Amber", 1.045, 1.060, 32, 50);   // IBU 30 is a near miss
+    style(2, "Big Amber", 1.080, 1.100, 20, 40);     // OG far too low
+    t.BeerStyleCount = 3;
+    EXPECT_TRUE(saveBeerStyles(wb));
+  }
+
+  void recipe(int no, const std::string& style) { ASSERT_TRUE(storeAmber(wb, no, "Amber", style)); }
+};
+}  // namespace
+
+TEST(EditorVerbs, CalcAndMatchPrintWhatTheEditorShows) {
+  Files f;
+  f.recipe(1, "Hoppy Amber");
+  f.recipe(2, "Martian Red");
+  EXPECT_EQ(f.home.run({"calc", "1"}).all(),
+            "0|Color=15.8\nOG=1.053\nFG=1.013\nAlcohol=5.3\nIBU=30\nCost=$17.74\n"
+            "TargetOG=OK green\nTargetFG=OK green\nTargetIBU=Low yellow\nTargetColor=OK green\n"
+            "TargetAlcohol=OK green\nStyle=Hoppy Amber\nColorSample=144,73,47\n|");
+
+  CliResult r = f.home.run({"calc", "2"});
+  EXPECT_EQ(r.status, 0);
+  for (const char* line : {"TargetOG=N/A none\n", "Style=<Not A Recognized Beer Style>\n"})
+    EXPECT_NE(r.out.find(line), std::string::npos) << line;
+  EXPECT_EQ(r.err, "[Unknown Beer Style] Beer Style 'Martian Red' is Not Recognized by Zythara\n");
+
+  EXPECT_EQ(f.home.run({"calc", "3"}).all(), "1||zythara-cli: calc: there is no recipe 3\n");  // no such record
+  EXPECT_EQ(f.home.run({"calc"}).status + f.home.run({"calc", "x"}).status, 4);  // usage errors
+
+  // Every style without a full miss: Big Amber's OG is far off.
+  EXPECT_EQ(f.home.run({"match", "1"}).all(),
+            "0|Beer Style\tO.G.\tF.G.\tBitter\tColor\tAlc %\n"
+            "American Amber Ale\tOK\tOK\tOK\tOK\tOK\n"
+            "Hoppy Amber\tOK\tOK\tLow\tOK\tOK\n|");
 }
