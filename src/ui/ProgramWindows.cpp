@@ -128,6 +128,7 @@ dlgScale& ProgramWindows::scale() {
   if (!scale_) {
     scale_ = new dlgScale(recipe().editor(), &recipe());
     scale_->applied = [this] { showRecipe(); };
+    scale_->showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
   }
   return *scale_;
 }
@@ -369,6 +370,7 @@ frmInvCheck& ProgramWindows::invCheck() {
   if (!invCheck_) {
     invCheck_ = std::make_unique<frmInvCheck>(wb_, recipe().editor());
     invCheck_->shoppingChanged = [this] { showShoppingList(); };
+    invCheck_->showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
   }
   return *invCheck_;
 }

@@ -8,6 +8,8 @@
 #include <QPushButton>
 #include <QToolButton>
 
+#include "ui/HelpButton.h"
+
 #include "inventory/InventoryStartup.h"
 #include "ui/QtPrompter.h"
 #include "ui/RecipeIcons.h"
@@ -58,6 +60,8 @@ dlgAddToShopLst::dlgAddToShopLst(Workbench& wb, QWidget* parent) : QDialog(paren
   cmdOK->setObjectName("cmdOK");
   cmdCancel = buttons->addButton(QDialogButtonBox::Cancel);
   cmdCancel->setObjectName("cmdCancel");
+  cmdHelp = makeHelpButton(*this, showHelpTopic, "shopping-list.html#add");
+  buttons->addButton(cmdHelp, QDialogButtonBox::HelpRole);
   grid->addWidget(buttons, 4, 0, 1, 4);
   connect(cmdOK, &QPushButton::clicked, this, [this] {
     if (cmdOK_Click()) accept();

@@ -34,10 +34,12 @@ class dlgAddToShopLst : public QDialog {
   UpDown *udcQty = nullptr, *udcUnitCost = nullptr;
   QLabel* lblUnits = nullptr;
   QCheckBox* chkAddToItem = nullptr;
-  QPushButton *cmdOK = nullptr, *cmdCancel = nullptr;
+  QPushButton *cmdOK = nullptr, *cmdCancel = nullptr, *cmdHelp = nullptr;
 
   // After an item went to the list.
   std::function<void()> added;
+  // Opens a page of the help (F1, the Help button).
+  std::function<void(const QString& page)> showHelpTopic;
 
  private:
   void showForm();

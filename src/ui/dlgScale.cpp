@@ -7,6 +7,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+
+#include "ui/HelpButton.h"
 #include <QRadioButton>
 #include <QRegularExpressionValidator>
 #include <QVBoxLayout>
@@ -64,6 +66,8 @@ dlgScale::dlgScale(RecipeEditor& editor, QWidget* parent) : QDialog(parent), edi
   auto* buttons = new QDialogButtonBox(this);
   cmdOK = buttons->addButton("&OK", QDialogButtonBox::AcceptRole);
   cmdCancel = buttons->addButton("&Cancel", QDialogButtonBox::RejectRole);
+  cmdHelp = makeHelpButton(*this, showHelpTopic, "recipe-editor.html#scale");
+  buttons->addButton(cmdHelp, QDialogButtonBox::HelpRole);
   cmdOK->setDefault(true);
   box->addWidget(buttons);
   connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });

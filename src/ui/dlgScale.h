@@ -28,12 +28,14 @@ class dlgScale : public QDialog {
 
   // Called after a rescale, so that the editor repaints.
   std::function<void()> applied;
+  // Opens a page of the help (F1, the Help button).
+  std::function<void(const QString& page)> showHelpTopic;
 
   ScaleDialog model;
   QLineEdit* txtVolume = nullptr;
   QComboBox* cboVolume = nullptr;
   std::array<QRadioButton*, 3> optUnits{};
-  QPushButton *cmdOK = nullptr, *cmdCancel = nullptr;
+  QPushButton *cmdOK = nullptr, *cmdCancel = nullptr, *cmdHelp = nullptr;
 
  private:
   void refresh();

@@ -6,6 +6,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "ui/HelpButton.h"
+
 #include "ui/QtPrompter.h"
 
 namespace zy {
@@ -34,6 +36,8 @@ frmFind::frmFind(Mode mode, std::function<bool(const std::string&)> findNext, QW
   auto* buttons = new QDialogButtonBox(this);
   buttons->addButton(cmdFind, QDialogButtonBox::ActionRole);
   buttons->addButton(cmdCancel, QDialogButtonBox::RejectRole);
+  cmdHelp = makeHelpButton(*this, showHelpTopic, recipe ? "recipe-list.html#find" : "inventory.html#find");
+  buttons->addButton(cmdHelp, QDialogButtonBox::HelpRole);
   grid->addWidget(buttons, 2, 0, 1, 2);
   connect(cmdFind, &QPushButton::clicked, this, [this] { cmdFind_Click(); });
   connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);

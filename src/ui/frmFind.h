@@ -27,6 +27,9 @@ class frmFind : public QDialog {
   QLineEdit* txtFind = nullptr;
   QPushButton* cmdFind = nullptr;
   QPushButton* cmdCancel = nullptr;
+  QPushButton* cmdHelp = nullptr;
+  // Opens a page of the help (F1, the Help button).
+  std::function<void(const QString& page)> showHelpTopic;
 
  private:
   Mode mode_;

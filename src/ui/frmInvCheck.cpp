@@ -6,6 +6,8 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+
+#include "ui/HelpButton.h"
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -44,6 +46,8 @@ frmInvCheck::frmInvCheck(Workbench& wb, RecipeEditor& editor, QWidget* parent)
   cmdRefresh->setToolTip("Check the recipe's ingredients against the stock again");
   cmdClose = new QPushButton("&Close", this);
   auto* buttons = new QHBoxLayout;
+  cmdHelp = makeHelpButton(*this, showHelpTopic, "inventory.html#check");
+  buttons->addWidget(cmdHelp);
   buttons->addWidget(cmdAddShort);
   buttons->addStretch();
   buttons->addWidget(cmdRefresh);

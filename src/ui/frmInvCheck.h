@@ -30,9 +30,11 @@ class frmInvCheck : public QWidget {
   std::vector<StockCheckRow> rows;
   QTreeWidget* lvCheck = nullptr;
   QLabel* lblSummary = nullptr;
-  QPushButton *cmdAddShort = nullptr, *cmdRefresh = nullptr, *cmdClose = nullptr;
+  QPushButton *cmdAddShort = nullptr, *cmdRefresh = nullptr, *cmdClose = nullptr, *cmdHelp = nullptr;
   // After shortages went to the shopping list: the owner shows it.
   std::function<void()> shoppingChanged;
+  // Opens a page of the help (F1, the Help button).
+  std::function<void(const QString& page)> showHelpTopic;
 
  protected:
   void closeEvent(QCloseEvent* event) override;

@@ -230,6 +230,9 @@ frmInventory::frmInventory(Workbench& wb, QWidget* parent) : QMainWindow(parent,
         return true;
       },
       this);
+  findDialog->showHelpTopic = [this](const QString& page) {
+    if (showHelpTopic) showHelpTopic(page);
+  };
 
   connect(tbsInventory, &QTabBar::currentChanged, this, [this](int i) {
     if (!painting_) showCategory(i);
@@ -433,6 +436,7 @@ void frmInventory::mnuEditShopping_Click() {
   std::string cost = trim(l.cell(row, kColCost));
   if (!cost.empty() && cost[0] == '$') cost = replaceAll(cost.substr(1), ",", "");
   dlgAddToShopLst dlg(wb_, this);
+  dlg.showHelpTopic = showHelpTopic;
   dlg.addToShoppingList(model.category, l.cell(row, kColName), lenientValue(l.cell(row, kColReorderQty)),
                         findInList(units, static_cast<int>(units.size()) - 1, l.cell(row, kColUnits), -1),
                         lenientValue(cost));

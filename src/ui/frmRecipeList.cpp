@@ -317,6 +317,7 @@ bool frmRecipeList::findNext(const std::string& part) {
 
 void frmRecipeList::mnuFileFind_Click() {
   frmFind dlg(frmFind::Mode::Recipe, [this](const std::string& part) { return findNext(part); }, this);
+  dlg.showHelpTopic = showHelpTopic;
   dlg.exec();
 }
 

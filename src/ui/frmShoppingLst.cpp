@@ -101,6 +101,9 @@ frmShoppingLst::frmShoppingLst(Workbench& wb, QWidget* parent) : QMainWindow(par
   setCentralWidget(central);
 
   editDialog = new dlgAddToShopLst(wb_, this);
+  editDialog->showHelpTopic = [this](const QString& page) {
+    if (showHelpTopic) showHelpTopic(page);
+  };
   editDialog->added = [this] { refreshFromModel(); };
 
   connect(mnuFileImpReplace, &QAction::triggered, this, [this] { mnuFileImp_Click(true); });

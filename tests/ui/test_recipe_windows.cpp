@@ -28,6 +28,7 @@
 #include "ui/frmHelp.h"
 #include "ui/frmFermentation.h"
 #include "ui/frmFind.h"
+#include "ui/frmInvCheck.h"
 #include "ui/frmRecipe.h"
 #include "ui/frmRecipeList.h"
 
@@ -261,6 +262,13 @@ TEST_F(WindowsTest, ToolsWithoutAWindowStayDisabledWithATip) {
   EXPECT_EQ(b.main->help()->currentPage(), "recipe-editor.html");
   list->tbHelp->trigger();
   EXPECT_EQ(b.main->help()->currentPage(), "recipe-list.html");
+  // The small dialogs reach their part of a page through their Help button.
+  const std::pair<QPushButton*, QString> small[] = {{b.windows->scale().cmdHelp, "recipe-editor.html"},
+                                                    {b.windows->invCheck().cmdHelp, "inventory.html"}};
+  for (const auto& [button, page] : small) {
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_EQ(b.main->help()->currentPage(), page);
+  }
 }
 
 TEST_F(WindowsTest, TheEditorOpensTheHopsUnitsAndStyleWindows) {
