@@ -1,3 +1,4 @@
+#include "ui/HelpButton.h"
 #include "ui/CalcWindow.h"
 
 #include <QApplication>
@@ -59,16 +60,7 @@ void CalcWindow::resultReached() {
   if (applied) applied();
 }
 
-void CalcWindow::showHelp() {
-  if (openHelp) {
-    openHelp(helpPage_);
-    return;
-  }
-  if (!help_) help_ = new frmHelp(qs(wb_.folder.helpFolder()), this);
-  help_->showTopic(helpPage_);
-  help_->show();
-  help_->raise();
-}
+void CalcWindow::showHelp() { showHelpPage(this, wb_, openHelp, helpPage_); }
 
 void CalcWindow::showEvent(QShowEvent* event) {
   if (!event->spontaneous()) {

@@ -50,7 +50,6 @@ class CalcWindow : public QWidget {
   const char* helpPage_;
   QSize defaultSize_;
   bool placed_ = false;
-  frmHelp* help_ = nullptr;
 };
 
 // Only the keys of a number get into a box, as in every number box of the program.

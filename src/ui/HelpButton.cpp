@@ -1,10 +1,34 @@
 #include "ui/HelpButton.h"
 
+#include <QApplication>
 #include <QKeySequence>
 #include <QPushButton>
 #include <QShortcut>
 
+#include "ui/QtPrompter.h"
+#include "ui/frmHelp.h"
+#include "workbench/Workbench.h"
+
 namespace zy {
+
+void showHelpPage(QWidget* from, const Workbench& wb, const QString& target) {
+  frmHelp* help = nullptr;
+  for (QWidget* t : QApplication::topLevelWidgets())
+    if (auto* h = qobject_cast<frmHelp*>(t)) help = h;
+  if (!help) {
+    help = new frmHelp(qs(wb.folder.helpFolder()), from ? from->window() : nullptr);
+    help->setAttribute(Qt::WA_DeleteOnClose);
+  }
+  help->showTopic(target);
+  help->show();
+  help->raise();
+  help->activateWindow();
+}
+
+void showHelpPage(QWidget* from, const Workbench& wb, const HelpOpener& opener, const QString& target) {
+  if (opener) opener(target);
+  else showHelpPage(from, wb, target);
+}
 
 QPushButton* makeHelpButton(QWidget& dialog, const HelpOpener& opener, const QString& page) {
   auto* b = new QPushButton("&Help", &dialog);

@@ -1,6 +1,7 @@
 #pragma once
-// A small dialog's way to its help page: a "&Help" button and the F1 key, both opening the page
-// through the dialog's `showHelpTopic` port (the help window of the program).
+// A window's way to its help page: the help window of the program through the window's
+// `showHelpTopic` port, or, where nobody set the port, the help window already open or one of the
+// window's own. Small dialogs get a "&Help" button and the F1 key for it.
 #include <QString>
 #include <functional>
 
@@ -9,7 +10,15 @@ class QWidget;
 
 namespace zy {
 
+class Workbench;
+
 using HelpOpener = std::function<void(const QString& page)>;
+
+// Opens the help window at `target` ("beer-styles.html#edit"): the help window already open in
+// the program, or one of its own over `from`'s window.
+void showHelpPage(QWidget* from, const Workbench& wb, const QString& target);
+// Through `opener` when set, else as showHelpPage does.
+void showHelpPage(QWidget* from, const Workbench& wb, const HelpOpener& opener, const QString& target);
 
 // Makes the button on `dialog` and binds F1 to it; `opener` is read when pressed, so it may be
 // set after the dialog is made. The button is disabled with a tip while no opener is set.

@@ -9,7 +9,8 @@
 #include <QVBoxLayout>
 
 #include "ui/QtPrompter.h"
-#include "ui/StyleWindowSupport.h"
+#include "ui/HelpButton.h"
+#include "ui/WindowPlacement.h"
 
 namespace zy {
 
@@ -85,7 +86,7 @@ dlgBeerCategories::dlgBeerCategories(Workbench& wb, StyleEditor& editor, QWidget
   connect(cmdSave, &QPushButton::clicked, this, &dlgBeerCategories::save);
   connect(cmdDelete, &QPushButton::clicked, this, &dlgBeerCategories::remove);
   connect(cmdClose, &QPushButton::clicked, this, &QDialog::accept);
-  connect(help, &QPushButton::clicked, this, [this] { showStyleHelp(this, wb_, "beer-styles.html#categories"); });
+  connect(help, &QPushButton::clicked, this, [this] { showHelpPage(this, wb_, "beer-styles.html#categories"); });
   fillList(-1);
   txtCategory->setToolTip(tr("The category's name, as the style lists show it"));
   lstCategories->setMinimumWidth(200);

@@ -14,7 +14,8 @@
 
 #include "core/text.h"
 #include "ui/QtPrompter.h"
-#include "ui/StyleWindowSupport.h"
+#include "ui/HelpButton.h"
+#include "ui/WindowPlacement.h"
 
 namespace zy {
 
@@ -100,7 +101,7 @@ dlgBeerStyleEdit::dlgBeerStyleEdit(Workbench& wb, StyleEditor& editor, int row, 
 
   connect(cmdOK, &QPushButton::clicked, this, &dlgBeerStyleEdit::ok);
   connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
-  connect(help, &QPushButton::clicked, this, [this] { showStyleHelp(this, wb_, "beer-styles.html#edit"); });
+  connect(help, &QPushButton::clicked, this, [this] { showHelpPage(this, wb_, "beer-styles.html#edit"); });
   resize(460, 480);
 }
 

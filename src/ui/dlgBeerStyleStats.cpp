@@ -6,7 +6,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "ui/StyleWindowSupport.h"
+#include "ui/HelpButton.h"
+#include "ui/WindowPlacement.h"
 
 namespace zy {
 

@@ -11,7 +11,8 @@
 #include <QVBoxLayout>
 
 #include "ui/QtPrompter.h"
-#include "ui/StyleWindowSupport.h"
+#include "ui/HelpButton.h"
+#include "ui/WindowPlacement.h"
 
 namespace zy {
 
@@ -74,7 +75,7 @@ dlgFilterBeerStyles::dlgFilterBeerStyles(Workbench& wb, QWidget* parent) : QDial
     model.reset();
     repaint();
   });
-  connect(cmdHelp, &QPushButton::clicked, this, [this] { showStyleHelp(this, wb_, "style-match.html#filter"); });
+  connect(cmdHelp, &QPushButton::clicked, this, [this] { showHelpPage(this, wb_, "style-match.html#filter"); });
   load();
 }
 

@@ -1,3 +1,4 @@
+#include "ui/HelpButton.h"
 #include "ui/frmAdvMaltFormulator.h"
 
 #include <QCloseEvent>
@@ -369,15 +370,7 @@ void frmAdvMaltFormulator::deleteSelected() {
   refresh();
 }
 
-void frmAdvMaltFormulator::showHelp() {
-  if (openHelp) {
-    openHelp(kHelpPage);
-    return;
-  }
-  if (!help_) help_ = new frmHelp(qs(wb_.folder.helpFolder()), this);
-  help_->showTopic(kHelpPage);
-  help_->show();
-}
+void frmAdvMaltFormulator::showHelp() { showHelpPage(this, wb_, openHelp, kHelpPage); }
 
 void frmAdvMaltFormulator::showEvent(QShowEvent* event) {
   if (!event->spontaneous()) {

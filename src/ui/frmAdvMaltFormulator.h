@@ -95,7 +95,6 @@ class frmAdvMaltFormulator : public QMainWindow {
   bool refreshing_ = false;
   bool placed_ = false;
   bool loadedByCaller_ = false;
-  frmHelp* help_ = nullptr;
 };
 
 }  // namespace zy

@@ -19,7 +19,8 @@
 
 #include "core/text.h"
 #include "ui/QtPrompter.h"
-#include "ui/StyleWindowSupport.h"
+#include "ui/HelpButton.h"
+#include "ui/WindowPlacement.h"
 #include "ui/TopicIcons.h"
 #include "ui/dlgBeerCategories.h"
 #include "ui/dlgBeerStyleEdit.h"
@@ -115,7 +116,7 @@ frmBeerStyles::frmBeerStyles(Workbench& wb, QWidget* parent)
   mnuToolsCategories = tools->addAction(tr("Beer &Categories..."), this, &frmBeerStyles::editCategories);
   mnuToolsStats = tools->addAction(tr("Beer Style S&tatistics..."), this, &frmBeerStyles::showStatistics);
   QMenu* help = menuBar()->addMenu(tr("&Help"));
-  mnuHelpContents = help->addAction(tr("&Contents"), this, [this] { showStyleHelp(this, wb_, "beer-styles.html"); });
+  mnuHelpContents = help->addAction(tr("&Contents"), this, [this] { showHelpPage(this, wb_, "beer-styles.html"); });
   mnuHelpContents->setShortcut(QKeySequence::HelpContents);
   for (QMenu* m : {file, tools, help}) m->setToolTipsVisible(true);
 

@@ -1,3 +1,4 @@
+#include "ui/HelpButton.h"
 #include "ui/frmHopsUtilization.h"
 
 #include <QApplication>
@@ -550,17 +551,7 @@ void frmHopsUtilization::cmdCancel_Click() {
   close();
 }
 
-void frmHopsUtilization::showHelp() {
-  if (openHelp) {
-    openHelp(kHelpPage);
-    return;
-  }
-  if (!help_) help_ = new frmHelp(qs(wb_.folder.helpFolder()), this);
-  help_->showTopic(kHelpPage);
-  help_->show();
-  help_->raise();
-  help_->activateWindow();
-}
+void frmHopsUtilization::showHelp() { showHelpPage(this, wb_, openHelp, kHelpPage); }
 
 void frmHopsUtilization::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape) {

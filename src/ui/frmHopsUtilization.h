@@ -99,7 +99,6 @@ class frmHopsUtilization : public QWidget {
   int factorIndex(QObject* o) const;
 
   Workbench& wb_;
-  frmHelp* help_ = nullptr;
   int editRow_ = -1;  // 1..18 while the editor is open
   bool refreshing_ = false;
   bool placed_ = false;

@@ -14,7 +14,8 @@
 #include "core/text.h"
 #include "inventory/InventoryStartup.h"
 #include "ui/QtPrompter.h"
-#include "ui/StyleWindowSupport.h"
+#include "ui/HelpButton.h"
+#include "ui/WindowPlacement.h"
 #include "ui/TopicIcons.h"
 
 namespace zy {

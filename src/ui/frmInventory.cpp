@@ -27,7 +27,8 @@
 #include "inventory/InventoryStartup.h"
 #include "recipes/RecipeEditor.h"
 #include "ui/QtPrompter.h"
-#include "ui/StyleWindowSupport.h"
+#include "ui/HelpButton.h"
+#include "ui/WindowPlacement.h"
 #include "ui/TopicIcons.h"
 #include "ui/dlgAddToShopLst.h"
 #include "ui/frmFind.h"
@@ -266,7 +267,7 @@ frmInventory::frmInventory(Workbench& wb, QWidget* parent) : QMainWindow(parent,
   });
   auto helpAt = [this] {
     if (showHelpTopic) showHelpTopic("inventory.html");
-    else showStyleHelp(this, wb_, "inventory.html");
+    else showHelpPage(this, wb_, "inventory.html");
   };
   connect(contents, &QAction::triggered, this, helpAt);
   connect(tbHelp, &QAction::triggered, this, helpAt);

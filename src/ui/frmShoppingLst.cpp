@@ -13,7 +13,8 @@
 #include "inventory/InventoryStartup.h"
 #include "inventory/ShoppingList.h"
 #include "ui/QtPrompter.h"
-#include "ui/StyleWindowSupport.h"
+#include "ui/HelpButton.h"
+#include "ui/WindowPlacement.h"
 #include "ui/TopicIcons.h"
 #include "ui/dlgAddToShopLst.h"
 #include "workbench/Startup.h"
@@ -120,7 +121,7 @@ frmShoppingLst::frmShoppingLst(Workbench& wb, QWidget* parent) : QMainWindow(par
   connect(chkRound, &QCheckBox::toggled, this, [this](bool on) { wb_.shopping.roundToWholeUnits = on; });
   auto helpAt = [this](const char* anchor) {
     if (showHelpTopic) showHelpTopic(QString("shopping-list.html") + anchor);
-    else showStyleHelp(this, wb_, QString("shopping-list.html") + anchor);
+    else showHelpPage(this, wb_, QString("shopping-list.html") + anchor);
   };
   connect(contents, &QAction::triggered, this, [helpAt] { helpAt(""); });
   connect(index, &QAction::triggered, this, [helpAt] { helpAt(""); });

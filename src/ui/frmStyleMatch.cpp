@@ -11,7 +11,8 @@
 #include <QVBoxLayout>
 
 #include "ui/QtPrompter.h"
-#include "ui/StyleWindowSupport.h"
+#include "ui/HelpButton.h"
+#include "ui/WindowPlacement.h"
 #include "ui/TopicIcons.h"
 #include "ui/frmBeerStyles.h"
 
@@ -82,7 +83,7 @@ frmStyleMatch::frmStyleMatch(Workbench& wb, RecipeEditor& editor, QWidget* paren
           [this](QTreeWidgetItem* item) { rowDoubleClicked(lvStyle->indexOfTopLevelItem(item)); });
   connect(cmdSetRecipe, &QPushButton::clicked, this, &frmStyleMatch::cmdSetRecipe_Click);
   connect(cmdClose, &QPushButton::clicked, this, &QWidget::close);
-  connect(cmdHelp, &QPushButton::clicked, this, [this] { showStyleHelp(this, wb_, "style-match.html#match"); });
+  connect(cmdHelp, &QPushButton::clicked, this, [this] { showHelpPage(this, wb_, "style-match.html#match"); });
 }
 
 void frmStyleMatch::refresh() {

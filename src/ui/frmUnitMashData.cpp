@@ -1,3 +1,4 @@
+#include "ui/HelpButton.h"
 #include "ui/frmUnitMashData.h"
 
 #include <QCloseEvent>
@@ -166,17 +167,7 @@ bool frmUnitMashData::cmdOK_Click() {
 
 void frmUnitMashData::cmdCancel_Click() { close(); }
 
-void frmUnitMashData::showHelp() {
-  if (openHelp) {
-    openHelp(kHelpPage);
-    return;
-  }
-  if (!help_) help_ = new frmHelp(qs(wb_.folder.helpFolder()), this);
-  help_->showTopic(kHelpPage);
-  help_->show();
-  help_->raise();
-  help_->activateWindow();
-}
+void frmUnitMashData::showHelp() { showHelpPage(this, wb_, openHelp, kHelpPage); }
 
 void frmUnitMashData::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape) {

@@ -60,7 +60,6 @@ class frmUnitMashData : public QWidget {
 
   Workbench& wb_;
   RecipeEditor& editor_;
-  frmHelp* help_ = nullptr;
   bool refreshing_ = false;
   bool placed_ = false;
 };
