@@ -29,7 +29,7 @@ bench: build
 # Sanitizers: the whole test suite built with ASan and UBSan in a folder of its own.
 SAN_BUILD ?= build-sanitize
 sanitize: deps
-	cmake -S . -B $(SAN_BUILD) -DCMAKE_BUILD_TYPE=Debug -DZY_SANITIZE=ON
+	cmake -S . -B $(SAN_BUILD) -DCMAKE_BUILD_TYPE=Debug -DZY_SANITIZE=ON $(LAUNCHER)
 	cmake --build $(SAN_BUILD) -j$(JOBS)
 	cd $(SAN_BUILD) && QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=detect_leaks=0 \
 	  UBSAN_OPTIONS=print_stacktrace=1 ctest --output-on-failure -j$(JOBS)
@@ -46,7 +46,7 @@ fuzz-deps: deps
 	  { run="env DEBIAN_FRONTEND=noninteractive"; [ "$$(id -u)" -ne 0 ] && run="sudo $$run"; \
 	    $$run apt-get update -qq && $$run apt-get install -y -qq --no-install-recommends clang; }
 fuzz: fuzz-deps
-	cmake -S . -B $(FUZZ_BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ -DZY_FUZZ=ON
+	cmake -S . -B $(FUZZ_BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ -DZY_FUZZ=ON $(LAUNCHER)
 	cmake --build $(FUZZ_BUILD) -j$(JOBS) --target $(addprefix fuzz_,$(FUZZ_NAMES))
 	@mkdir -p $(FUZZ_BUILD)/artifacts
 	@set -e; for n in $(FUZZ_NAMES); do \
