@@ -26,7 +26,8 @@ test: build
 bench: build
 	for b in $(BUILD)/bench/*; do echo "== $$b"; $$b; done
 
-# Sanitizers: the whole test suite built with ASan and UBSan in a folder of its own.
+# Sanitizers: the whole test suite built with ASan and UBSan in a folder of its own. Their GCC
+# runtimes (libasan, libubsan) come with build-essential, which `deps` installs.
 SAN_BUILD ?= build-sanitize
 sanitize: deps
 	cmake -S . -B $(SAN_BUILD) -DCMAKE_BUILD_TYPE=Debug -DZY_SANITIZE=ON $(LAUNCHER)
