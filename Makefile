@@ -26,10 +26,11 @@ test: build
 bench: build
 	for b in $(BUILD)/bench/*; do echo "== $$b"; $$b; done
 
-# Sanitizers: the whole test suite built with ASan and UBSan in a folder of its own.
+# Sanitizers: the whole test suite built with ASan and UBSan in a folder of its own. Their GCC
+# runtimes (libasan, libubsan) come with build-essential, which `deps` installs.
 SAN_BUILD ?= build-sanitize
 sanitize: deps
-	cmake -S . -B $(SAN_BUILD) -DCMAKE_BUILD_TYPE=Debug -DZY_SANITIZE=ON
+	cmake -S . -B $(SAN_BUILD) -DCMAKE_BUILD_TYPE=Debug -DZY_SANITIZE=ON $(LAUNCHER)
 	cmake --build $(SAN_BUILD) -j$(JOBS)
 	cd $(SAN_BUILD) && QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=detect_leaks=0 \
 	  UBSAN_OPTIONS=print_stacktrace=1 ctest --output-on-failure -j$(JOBS)
@@ -46,7 +47,7 @@ fuzz-deps: deps
 	  { run="env DEBIAN_FRONTEND=noninteractive"; [ "$$(id -u)" -ne 0 ] && run="sudo $$run"; \
 	    $$run apt-get update -qq && $$run apt-get install -y -qq --no-install-recommends clang; }
 fuzz: fuzz-deps
-	cmake -S . -B $(FUZZ_BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ -DZY_FUZZ=ON
+	cmake -S . -B $(FUZZ_BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ -DZY_FUZZ=ON $(LAUNCHER)
 	cmake --build $(FUZZ_BUILD) -j$(JOBS) --target $(addprefix fuzz_,$(FUZZ_NAMES))
 	@mkdir -p $(FUZZ_BUILD)/artifacts
 	@set -e; for n in $(FUZZ_NAMES); do \

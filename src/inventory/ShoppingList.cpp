@@ -64,14 +64,30 @@ int ShoppingList::find(const std::string& category, const std::string& name) con
 
 void ShoppingList::addItem(int category, const std::string& name, double quantity, bool addToExisting,
                            const std::string& units, double unitCost) {
+  putItem(category, name, quantity, addToExisting, units, unitCost);
+  calcTotalCost();
+}
+
+void ShoppingList::putItem(int category, const std::string& name, double quantity, bool addToExisting,
+                           const std::string& units, double unitCost, RowIndex* index) {
   const std::string& categoryName = inventoryCategoryName(category < 0 || category > 4 ? 0 : category);
-  int r = find(categoryName, name);
+  int r = -1;
+  if (index) {
+    // The index is built from the rows on the first call; rows added later go into it.
+    if (index->empty())
+      for (size_t i = 0; i < rows.size(); ++i) index->emplace(rows[i].category() + '\n' + rows[i].item(), i);
+    auto it = index->find(categoryName + '\n' + name);
+    if (it != index->end()) r = static_cast<int>(it->second);
+  } else {
+    r = find(categoryName, name);
+  }
   if (r < 0) {
     ShoppingRow row;
     row.cells[0] = categoryName;
     row.cells[1] = name;
     rows.push_back(row);
     r = static_cast<int>(rows.size()) - 1;
+    if (index) index->emplace(categoryName + '\n' + name, rows.size() - 1);
   }
   ShoppingRow& row = rows[static_cast<size_t>(r)];
   if (addToExisting) quantity += strictValue(row.cells[2]).value_or(0.0);
@@ -80,7 +96,6 @@ void ShoppingList::addItem(int category, const std::string& name, double quantit
   row.cells[3] = units;
   row.cells[4] = formatNumber(unitCost, "Currency");
   row.cells[5] = formatNumber(quantity * unitCost, "Currency");
-  calcTotalCost();
 }
 
 void ShoppingList::calcTotalCost() {
@@ -253,6 +268,7 @@ std::optional<int> ShoppingList::importList(const ExchangePorts& p, const std::s
                        "Import Error", Icon::Critical);
     return std::nullopt;
   }
+  RowIndex index;
   while (!source.atEnd()) {
     ++engine.importLine;
     const std::string line = source.readLine();
@@ -260,7 +276,7 @@ std::optional<int> ShoppingList::importList(const ExchangePorts& p, const std::s
     const std::string bol = nextCsvField(fields);
     if (bol == "zy") {
       CsvRecord rec = recordFrom(splitRecord(bol, fields));
-      addItem(rec.category, rec.item, rec.quantity, true, rec.units, rec.unitCost);
+      putItem(rec.category, rec.item, rec.quantity, true, rec.units, rec.unitCost, &index);
       ++engine.importedRecords;
     } else if (bol == "zyt") {
       // The total line is the sum of the rows, never an item.
@@ -319,12 +335,13 @@ bool ShoppingList::loadFrom(const std::string& path) {
   if (ok) {
     std::string head = source.readLine();
     ok = nextCsvField(head) == "Shopping List";
+    RowIndex index;
     while (ok && !source.atEnd()) {
       std::string rest = source.readLine();
       const std::string bol = nextCsvField(rest);
       if (bol != "zy") continue;
       CsvRecord rec = recordFrom(splitRecord(bol, rest));
-      addItem(rec.category, rec.item, rec.quantity, false, rec.units, rec.unitCost);
+      putItem(rec.category, rec.item, rec.quantity, false, rec.units, rec.unitCost, &index);
     }
   }
   calcTotalCost();

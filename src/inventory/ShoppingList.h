@@ -8,6 +8,7 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "core/ports.h"
@@ -85,6 +86,13 @@ class ShoppingList {
   // Keeping the list between runs: quietly, without status log or messages.
   bool saveTo(const std::string& path) const;
   bool loadFrom(const std::string& path);
+
+ private:
+  // addItem without the total, for the loops that add many rows and total them once at the end;
+  // with an index (category, newline, item -> row) a row is found without a pass over the list.
+  using RowIndex = std::unordered_map<std::string, size_t>;
+  void putItem(int category, const std::string& name, double quantity, bool addToExisting, const std::string& units,
+               double unitCost, RowIndex* index = nullptr);
 };
 
 // The "Add to Shopping List" dialog's fields for one item: the unit named by the caller's index
