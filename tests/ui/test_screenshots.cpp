@@ -14,6 +14,7 @@
 #include "ui/UiSupport.h"
 #include "ui/frmAbout.h"
 #include "ui/frmHelp.h"
+#include "ui/ProgramWindows.h"
 #include "ui/frmMain.h"
 #include "ui/frmProperties.h"
 #include "ui/QtPrompter.h"
@@ -42,6 +43,7 @@ TEST(Screenshots, EveryWindow) {
 
   frmMain w(*b.wb);
   w.quitOnClose = false;
+  ProgramWindows windows(*b.wb, w);  // the toolbar's windows, as the program has them
   w.load("");
   w.showFromSettings();  // the size a first start gives
   saveScreenshot(w, dir, "main-default");
