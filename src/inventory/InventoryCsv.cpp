@@ -94,6 +94,11 @@ std::optional<int> exportInventory(const ExchangePorts& p, const InventoryList& 
     ++count;
     status.line(itos(count) + ") " + (row.cells.empty() ? std::string() : row.cells[0]));
   }
+  return finishExport(p, status, path, text, count, kExportFn);
+}
+
+std::optional<int> finishExport(const ExchangePorts& p, StatusLog& status, const std::string& path,
+                                const std::string& text, int count, const char* functionName) {
   std::FILE* f = std::fopen(path.c_str(), "wb");
   bool ok = f && std::fwrite(text.data(), 1, text.size(), f) == text.size();
   int err = errno;
@@ -102,7 +107,7 @@ std::optional<int> exportInventory(const ExchangePorts& p, const InventoryList& 
     status.blank();
     status.line("Unable to write " + path);
     status.writeTo(p.folder.file(kStatusLog));
-    p.errors.reportFileError(fileErrorFromErrno(err ? err : EIO, path), 0, kExportFn);
+    p.errors.reportFileError(fileErrorFromErrno(err ? err : EIO, path), 0, functionName);
     return std::nullopt;
   }
   status.blank();

@@ -39,6 +39,11 @@ CsvLayout currentInventoryLayout(int category);
 // Writes the list to `path` and the status log; shows "Succesfully Exported N Records". The
 // number of records exported, or nothing when the file could not be written.
 std::optional<int> exportInventory(const ExchangePorts& p, const InventoryList& list, const std::string& path);
+// The end of an export: `text` written to `path`, then the status report closed with the count and
+// "No Errors" and the success message; a failed write is reported under `functionName` instead.
+// The count, or nothing when the write failed.
+std::optional<int> finishExport(const ExchangePorts& p, StatusLog& status, const std::string& path,
+                                const std::string& text, int count, const char* functionName);
 // The export as the window's menu runs it: asks for the file (kept folder in "File Path").
 std::optional<int> mnuFileExport(const ExchangePorts& p, const InventoryList& list);
 

@@ -1,6 +1,5 @@
 #include "inventory/ShoppingList.h"
 
-#include <cerrno>
 #include <cmath>
 #include <algorithm>
 #include <cstdio>
@@ -195,24 +194,7 @@ std::optional<int> ShoppingList::exportList(const ExchangePorts& p, const std::s
   status.line("Exporting to File: " + path);
   int count = 0;
   for (const ShoppingRow& r : rows) status.line(itos(++count) + ") " + r.item());
-  const std::string text = csvText();
-  std::FILE* f = std::fopen(path.c_str(), "wb");
-  bool ok = f && std::fwrite(text.data(), 1, text.size(), f) == text.size();
-  int err = errno;
-  if (f && std::fclose(f) != 0) ok = false;
-  if (!ok) {
-    status.blank();
-    status.line("Unable to write " + path);
-    status.writeTo(p.folder.file(kStatusLog));
-    p.errors.reportFileError(fileErrorFromErrno(err ? err : EIO, path), 0, kExportFn);
-    return std::nullopt;
-  }
-  status.blank();
-  status.line(itos(count) + " Records Exported");
-  status.line("No Errors");
-  status.writeTo(p.folder.file(kStatusLog));
-  p.prompter.message("Succesfully Exported " + itos(count) + " Records", "Export Success", Icon::Information);
-  return count;
+  return finishExport(p, status, path, csvText(), count, kExportFn);
 }
 
 std::optional<int> ShoppingList::mnuFileExport(const ExchangePorts& p) {
