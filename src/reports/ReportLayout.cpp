@@ -47,8 +47,8 @@ double roomOf(const std::vector<ReportColumn>& columns, size_t i, double right) 
   double next = right;
   if (i + 1 < columns.size()) {
     const ReportColumn& n = columns[i + 1];
-    // A right-aligned neighbour's texts reach to the left of its stop: leave it an inch.
-    next = n.rightAligned ? n.x - 0.9 : n.x;
+    // A right-aligned neighbour's numbers reach to the left of its stop: leave them half an inch.
+    next = n.rightAligned ? n.x - 0.5 : n.x;
   }
   return std::max(0.2, next - c.x - 0.08);
 }
