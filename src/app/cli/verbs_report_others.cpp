@@ -114,7 +114,7 @@ int buildStyle(Context& c, ReportRequest& req) {
       return EXIT_DONE;
     }
   }
-  std::fprintf(c.err, "report: there is no style or category %s\n", displayUtf8(arg).c_str());
+  std::fprintf(c.err, "zythara-cli: report: there is no style or category %s\n", displayUtf8(arg).c_str());
   return EXIT_REPORTED;
 }
 
@@ -137,7 +137,7 @@ int buildBatchLog(Context& c, ReportRequest& req) {
   for (const BatchLogEntry& e : h->list.entries)
     if (lenientValue(e.batchNo) == static_cast<double>(batch)) recordNo = e.recordNo;
   if (!recordNo) {
-    std::fprintf(c.err, "report: recipe %s has no batch log %ld\n", c.args[0].c_str(), batch);
+    std::fprintf(c.err, "zythara-cli: report: recipe %s has no batch log %ld\n", c.args[0].c_str(), batch);
     return EXIT_REPORTED;
   }
   LogRecipeContext ctx;
