@@ -110,9 +110,9 @@ ReportProc printBatchLogReport(const BatchLogEditor& editor, const std::string& 
   return [&editor, recipeName](Report& r) {
     const BatchLogEditor& e = editor;
     reportTitle(r, kBatchLogReportTitle, trim(recipeName));
-    printLabelled(r, Report::kLeft, 1.6, "Batch #:", e.lblBatchNo);
-    printLabelled(r, Report::kLeft, 1.6, "Date Brewed:", trim(e.txtDateBrewed));
-    printLabelled(r, Report::kLeft, 1.6, "Status:", statusName(e.cboLogStatus));
+    printLabelled(r, Report::kLeft, 1.95, "Batch #:", e.lblBatchNo);
+    printLabelled(r, Report::kLeft, 1.95, "Date Brewed:", trim(e.txtDateBrewed));
+    printLabelled(r, Report::kLeft, 1.95, "Status:", statusName(e.cboLogStatus));
     for (const Section& s : logSections(e)) {
       reportSection(r, s.heading, 3);
       if (s.heading == "Mash") printMashSteps(r, e);

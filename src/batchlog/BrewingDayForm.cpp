@@ -58,7 +58,7 @@ void printIngredients(Report& r, const RecipeSheet& sheet) {
     r.setFont("Arial", 10);
     for (int row = g.headerRow(kind) + 1; row < g.sectionEnd(kind) && row < g.rowCount(); ++row) {
       if (!g.isItemRow(row) || trim(g.cell(row, COL_NAME)).empty()) continue;
-      r.ensureRoom(1.3, "Ingredients");
+      r.ensureRoom(1.2, "Ingredients");
       r.printAt(kIndent, "[  ]");
       r.printRight(trim(g.cell(row, COL_QTY)), 2.35);
       r.printAt(2.45, trim(g.cell(row, COL_UNITS)));
@@ -67,7 +67,7 @@ void printIngredients(Report& r, const RecipeSheet& sheet) {
         what += "  (" + trim(g.cell(row, COL_RATING)) + "% alpha, " + trim(g.cell(row, COL_DETAIL)) + " min)";
       }
       r.printAt(3.1, fitText(r, what, reportRight(r) - 3.1));
-      r.newLine(1.3);
+      r.newLine(1.2);
     }
   }
 }

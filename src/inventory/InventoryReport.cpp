@@ -27,10 +27,10 @@ std::vector<ReportColumn> reportColumns(int category) {
   const StringList& heads = inventoryReportHeads(category);
   std::vector<std::pair<double, bool>> at;
   switch (category) {
-    case INV_MALT: at = {{0.75, false}, {3.1, true}, {3.2, false}, {3.95, false}, {5.05, true}, {5.7, true}, {5.85, false}}; break;
-    case INV_HOPS: at = {{0.75, false}, {3.1, true}, {3.2, false}, {3.95, false}, {5.2, true}, {5.4, false}}; break;
-    case INV_YEAST: at = {{0.75, false}, {3.1, true}, {3.2, false}, {3.95, false}, {4.85, false}, {5.95, true}, {6.1, false}}; break;
-    default: at = {{0.75, false}, {3.1, true}, {3.2, false}, {3.95, false}, {5.2, false}}; break;
+    case INV_MALT: at = {{0.75, false}, {2.95, true}, {3.05, false}, {3.6, false}, {5.05, true}, {5.7, true}, {5.85, false}}; break;
+    case INV_HOPS: at = {{0.75, false}, {2.95, true}, {3.05, false}, {3.6, false}, {5.2, true}, {5.4, false}}; break;
+    case INV_YEAST: at = {{0.75, false}, {2.95, true}, {3.05, false}, {3.6, false}, {4.85, false}, {5.95, true}, {6.1, false}}; break;
+    default: at = {{0.75, false}, {2.95, true}, {3.05, false}, {3.6, false}, {5.2, false}}; break;
   }
   std::vector<ReportColumn> cols;
   for (size_t i = 0; i < at.size() && i < heads.size(); ++i) cols.push_back({heads[i], at[i].first, at[i].second});
