@@ -19,8 +19,4 @@ ReportProc printBrewingDayForm(const RecipeRecord& recipe, const RecipeSheet& sh
 // Report 8, without a file form.
 ReportRequest brewingDayFormRequest(const RecipeRecord& recipe, const RecipeSheet& sheet);
 
-// The name of a mash rest by its temperature, read in degrees Fahrenheit whatever the recipe's
-// scale: "Dough In", "Acid Rest", "Protein Rest", "Saccharification Rest", "Mash Out".
-std::string mashRestName(double temp);
-
 }  // namespace zy

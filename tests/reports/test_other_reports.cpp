@@ -185,20 +185,20 @@ TEST_F(LogReport, PrintsTheEfficiencyOnlyAgainstATargetAndCarriesLongComments) {
 }
 
 TEST_F(LogReport, BrewingDayFormListsTheRecipeWithLinesToWriteOn) {
+  RecipeRecord& rec = b.wb->recipe.rec;
+  rec.mashStepTemp = {89.9, 122, 152, 170, 140}, rec.mashStepTime = {10, 20, 60, 10, 0};
   const ReportRequest req = brewingDayFormRequest(b.wb->recipe.rec, recipe.sheet);
   EXPECT_EQ(req.number, kBrewingDayForm);
   EXPECT_FALSE(req.toFile);
   RecordingTarget t = run(req);
   EXPECT_TRUE(inOrder(t.lines(), {"Brewing Day Form", "Amber", "Batch #:  Date Brewed:", "Recipe Targets",
-                                  "Ingredients", "Malts"}));
+                                  "Ingredients", "Malts", "Rest  Temp (\xB0" "F)  Time  Reached (\xB0" "F)  Start  End",
+                                  "Dough In  90  10", "Protein Rest  122  20", "Saccharification Rest  152  60",
+                                  "Mash Out  170  10", "Total Mash Volume:  Grain Mashed:"}));
   const Lines texts = t.texts();
   EXPECT_TRUE(inOrder(texts, {"Fermentation Volume:", "5.0 US Gallons", "[  ]", "8.0", "Lbs", "Hop Additions",
                               "Added at:", "Fermentation", "Yeast Pitching Temp (\xB0" "F):", "Notes"}));
-  struct Rest { double temp; const char* name; };
-  for (const Rest& r : std::vector<Rest>{{89.9, "Dough In"}, {90, "Acid Rest"}, {134, "Protein Rest"},
-                                         {152, "Saccharification Rest"}, {170, "Mash Out"}})
-    EXPECT_EQ(mashRestName(r.temp), r.name);
-  EXPECT_EQ(t.sheets(), 1);
+  EXPECT_EQ(t.sheets(), 2);  // the notes run on to a second sheet
 }
 
 }  // namespace
