@@ -29,6 +29,8 @@
 #include "ui/frmRecipe.h"
 #include "ui/frmRecipeList.h"
 #include "ui/QtPrompter.h"
+#include "ui/ReportActions.h"
+#include "ui/frmPreview.h"
 #include "core/text.h"
 
 namespace zy {
@@ -48,9 +50,12 @@ ProgramWindows::ProgramWindows(Workbench& wb, frmMain& main) : wb_(wb), main_(ma
   main.setChildOpener(frmMain::Child::Inventory, [this] { showInventory(false); });
   main.setChildOpener(frmMain::Child::ShoppingList, [this] { showShoppingList(); });
   main.installEventFilter(this);
+  // The reports' preview and printing, with their help in the help window.
+  installReportActions(wb, [this](const QString& page) { showHelpTopic(page); });
 }
 
 ProgramWindows::~ProgramWindows() {
+  uninstallReportActions();
   // The editor's window takes its companions with it; the list forgets the tree's refresh.
   beerStyles_.reset();
   hopsUtilization_.reset();
@@ -444,6 +449,7 @@ void ProgramWindows::showComments() {
 void ProgramWindows::showRecReader() { bringForward(recReader()); }
 
 void ProgramWindows::closeAll() {
+  if (frmPreview* preview = previewWindow(false)) preview->close();
   if (recReader_) recReader_->close();
   if (beerStyles_) beerStyles_->close();
   closeCalculators();
