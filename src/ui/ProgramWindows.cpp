@@ -32,6 +32,7 @@
 #include "ui/ReportActions.h"
 #include "ui/frmPreview.h"
 #include "core/text.h"
+#include "recipes/RecipeReport.h"
 
 namespace zy {
 
@@ -104,6 +105,10 @@ frmRecipe& ProgramWindows::recipe() {
       showBeerStyles(recipe_->editor().cboBeerStyleText);
     });
     r.setToolOpener(RecipeTool::BatchLog, [this] { showBatchLogList(); });
+    r.setToolOpener(RecipeTool::PrintPreview,
+                    [this] { previewReport(recipe_.get(), recipeReportRequest(recipe_->editor())); });
+    r.setToolOpener(RecipeTool::Print, [this] { printReportNow(recipe_.get(), recipeReportRequest(recipe_->editor())); });
+    r.setToolOpener(RecipeTool::PageSetup, [this] { pageSetup(recipe_.get()); });
     // A change in the fermentation window shows on the editor's save button.
     FermentationForm& f = r.editor().fermentation;
     f.onChanged = [&r] {
