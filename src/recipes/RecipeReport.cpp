@@ -52,9 +52,10 @@ void labelValue(Report& r, const std::string& label, const std::string& value, c
                 double at = kLeft) {
   r.ensureRoom(1, heading);
   r.setFont("Arial", kBody, true);
-  r.printAt(at, label + ": ");
+  r.printAt(at, label + ":");
+  const double gap = r.textWidth(" ");
   r.setFont("Arial", kBody);
-  r.printAt(std::max(kValue, r.x), value);
+  r.printAt(std::max(kValue, r.x + gap), value);
   r.newLine();
 }
 
