@@ -21,6 +21,8 @@ TEST(Screenshots, RecipeReportPreview) {
   if (dir.isEmpty()) GTEST_SKIP() << "ZY_SCREENSHOT_DIR not set";
   QDir().mkpath(dir);
   RecipeBench b(true);
+  b.storeDozen(2, "Harvest Pale");
+  b.storeDozen(3, "Winter Porter");
   b.storeDozen(1, "Copper Kettle Amber");
   RecipeRecord& rec = b.wb->recipe.rec;
   rec.dateCreated = "Nov-22-2026", rec.idCode = "CKA-07", rec.labelName = "Copper Kettle";
@@ -50,6 +52,10 @@ TEST(Screenshots, RecipeReportPreview) {
   p->cboViewSize->lineEdit()->setText("75");
   p->cboViewSize_Commit("75");
   saveScreenshot(*p, dir, "preview");
+
+  list.mnuFilePreview->trigger();
+  EXPECT_EQ(p->model().request().number, kRecipeListReport);
+  saveScreenshot(*p, dir, "preview-recipe-list");
 }
 
 }  // namespace
