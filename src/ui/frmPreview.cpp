@@ -98,7 +98,7 @@ frmPreview::frmPreview(Workbench& wb, QWidget* parent)
   tbNext = button(mnuViewNext, "Next", "Next");
   tbToolBar->addSeparator();
 
-  auto* sizeLabel = new QLabel("&View Size: ");
+  auto* sizeLabel = new QLabel("View Si&ze: ");
   cboViewSize = new QComboBox;
   cboViewSize->setObjectName("cboViewSize");
   cboViewSize->setEditable(true);

@@ -10,6 +10,7 @@
 
 #include "support/TestSupport.h"
 #include "ui/ReportActions.h"
+#include "ui/UiSupport.h"
 #include "ui/frmPreview.h"
 
 namespace zy::test {
@@ -38,6 +39,7 @@ TEST(PreviewWindow, PagesSizesAndEscape) {
   frmPreview* w = previewWindow(false);
   ASSERT_TRUE(w && w->isVisible());
   EXPECT_EQ(w->windowTitle(), "Print Preview");
+  EXPECT_EQ(accessKeyClashes(w), std::vector<std::string>{});
   EXPECT_EQ(w->txtPageNum->text(), "Pg 1 of 3");
   EXPECT_TRUE(!w->tbPrevious->isEnabled() && w->tbNext->isEnabled());
   const QSize page100 = w->picPageImage->size();
