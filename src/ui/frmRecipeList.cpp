@@ -114,6 +114,8 @@ void frmRecipeList::buildMenus() {
     a->setEnabled(false);
     setTip(a, kComesWithReports);
   }
+  connect(mnuFileGenHTML, &QAction::triggered, this, [this] { mnuFileGenHTML_Click(); });
+  setTip(mnuFileGenHTML, "Write the selected recipe as a web page");
   file->addSeparator();
   mnuFileProperties = file->addAction("Propert&ies", this, [this] {
     if (openProperties) openProperties();
@@ -266,7 +268,9 @@ void frmRecipeList::showEnabledStates() {
   tbDelete->setEnabled(m.deleteEnabled);
   mnuFileExport->setEnabled(m.exportEnabled);
   tbExport->setEnabled(m.exportEnabled);
-  // The web page waits for the reports, whatever the selection.
+  const bool web = m.genHTMLEnabled && openGenHTML;
+  mnuFileGenHTML->setEnabled(web);
+  tbGenHTML->setEnabled(web);
   const int count = static_cast<int>(lenientValue(m.tree.tag));
   statusBar()->showMessage(count == 1 ? "1 recipe" : QString("%1 recipes").arg(count));
 }
@@ -307,6 +311,15 @@ void frmRecipeList::mnuFileExport_Click() {
       wb_.prompter.saveFile("Export Recipe", "Recipe Files (*.zyr)|*.zyr;*.rec|All Files (*.*)|*.*", initial);
   if (!path || path->empty()) return;
   m.exportRecipeFile(wb_, key, *path);
+}
+
+// The web page of the selected recipe: the recipe is loaded, then the window asks how the page
+// starts and ends.
+void frmRecipeList::mnuFileGenHTML_Click() {
+  const RecipeNode* n = model().selectedKey.empty() ? nullptr : model().tree.find(model().selectedKey);
+  if (!n || !n->isLeaf() || !openGenHTML) return;
+  if (!loadRecipe(wb_, RecipeList::recipeNumber(n->key))) return;
+  openGenHTML();
 }
 
 bool frmRecipeList::findNext(const std::string& part) {
