@@ -99,7 +99,7 @@ frmGenHTML::frmGenHTML(Workbench& wb, QWidget* parent) : QDialog(parent), wb_(wb
   dg->addWidget(lblFTP, 1, 0);
   dg->addWidget(txtFTP, 1, 1);
   dg->setColumnStretch(1, 1);
-  middle->addWidget(download, 3);
+  middle->addWidget(download, 5);
   auto* costs = new QGroupBox("Costs", this);
   auto* cg = new QVBoxLayout(costs);
   chkCosts = check(costs, "chkCosts", "Include the &estimated cost",
@@ -190,7 +190,7 @@ frmGenHTML::frmGenHTML(Workbench& wb, QWidget* parent) : QDialog(parent), wb_(wb
   model.load(wb_.settings);
   refresh();
   txtBefore->setMinimumWidth(260);
-  setMinimumWidth(520);
+  setMinimumWidth(580);
 }
 
 void frmGenHTML::refresh() {
