@@ -94,11 +94,9 @@ TEST(HtmlPage, VariantsByRecipeAndOptions) {
   const std::string costRow = "<TR><TD ALIGN=right>Approx Cost: <TD WIDTH=10> <TD>";
   const Case cases[] = {
       {"extract", [](CurrentRecipe& r, HtmlOptions&) { r.rec.mashType = 0; },
-       "This is an All Extract Ale Recipe<BR>\r\n", "Mash Schedule"},
-      {"extract mash line", [](CurrentRecipe& r, HtmlOptions&) { r.rec.mashType = 0; },
-       "<BR>\r\nNo Mash is used in this recipe<BR>\r\n<B>Fermentation", "Mash Efficiency"},
-      {"partial", [](CurrentRecipe& r, HtmlOptions&) { r.rec.mashType = 1; },
-       "This is a Partial Mash Ale Recipe<BR>\r\n", "This is an All Grain"},
+       "All Extract Ale Recipe<BR>\r\n", "Mash Efficiency"},
+      {"extract mash", [](CurrentRecipe& r, HtmlOptions&) { r.rec.mashType = 0; },
+       "<BR>\r\nNo Mash is used in this recipe<BR>\r\n<B>Fermentation", "Mash Schedule"},
       {"no comments", [](CurrentRecipe& r, HtmlOptions&) { r.comment.clear(); }, "<HR>", "Comments:"},
       {"cost", [](CurrentRecipe&, HtmlOptions& o) { o.costs = true; },
        costRow + "$17.54<BR>\r\n</TABLE>", "Not Specified"},
@@ -111,7 +109,6 @@ TEST(HtmlPage, VariantsByRecipeAndOptions) {
       {"165", [](CurrentRecipe& r, HtmlOptions&) { r.rec.mashStepTemp[1] = 165; }, "Mash Out<TD> 165 ", "Sacch"},
       {"164.9", [](CurrentRecipe& r, HtmlOptions&) { r.rec.mashStepTemp[1] = 164.9; },
        "Saccharification Rest<TD> 164.9 ", "Mash Out"},
-      {"step of no time", [](CurrentRecipe& r, HtmlOptions&) { r.rec.mashStepTime[0] = 0; }, "Sacch", "Protein"},
       {"celsius", [](CurrentRecipe& r, HtmlOptions&) {
          r.rec.unitType = METRIC_MEASURES;
          r.rec.mashStepTemp[0] = 50, r.rec.mashStepTemp[1] = 66.5;
@@ -125,12 +122,8 @@ TEST(HtmlPage, VariantsByRecipeAndOptions) {
        "copper_amber.zyr).<BR> <P>\r\n\r\n<FONT", ".htm"},
       {"title", [](CurrentRecipe&, HtmlOptions& o) { o.titleSize = 2, o.addTitle = true, o.titleText = "Our"; },
        "<H3>Our Copper Amber</H3>\r\n\r\n", "<H1>"},
-      {"title after", [](CurrentRecipe&, HtmlOptions& o) { o.addTitle = true, o.titleText = "(2026)", o.titleLoc = 1; },
-       "<H1>Copper Amber (2026)</H1>", "<H2>"},
       {"no tag, no return", [](CurrentRecipe&, HtmlOptions& o) { o.tag = false, o.returnLink = false; },
        "<BODY>\r\n<H1>", "#Top"},
-      {"own tag", [](CurrentRecipe&, HtmlOptions& o) { o.tagName = "amber"; },
-       "<A NAME=\"amber\"></A>\r\n", "\"Top\""},
       {"aging", [](CurrentRecipe& r, HtmlOptions&) { r.rec.agingCount = 4, r.rec.agingUnits = 1, r.rec.agingTemp = 34; },
        "<P>\r\n\r\n<b>Aging/Lagering Data:</B><BR>\r\nAfter Fermentation, Age/Lager for  4  Weeks at  34 \xB0""F\r\n\r\n"
        "<P>\r\n\r\n<B>Comments", "Aging Data"},
@@ -139,8 +132,6 @@ TEST(HtmlPage, VariantsByRecipeAndOptions) {
       {"kegs, forced", [](CurrentRecipe& r, HtmlOptions&) {
          r.rec.container = 2, r.rec.carbonation = 2, r.rec.primingComment = "12 psi";
        }, "Put into Kegs and Bottles with 12 psi of Forced CO2<BR>\r\n", "Normal"},
-      {"other container", [](CurrentRecipe& r, HtmlOptions&) { r.rec.container = 7, r.rec.carbonation = 3; },
-       "Put into a container with no conditioning<BR>", "Priming"},
       {"comment with empty lines", [](CurrentRecipe& r, HtmlOptions&) { r.comment = "One\r\n\r\nTwo\r\n"; },
        "<B>Comments:</B><BR>\r\nOne<P>\r\n\r\nTwo<P>\r\n\r\n<A HREF", "<P>\r\n\r\n<P>\r\n\r\nTwo"},
   };
@@ -214,23 +205,18 @@ TEST_F(HtmlFiles, MessagesProposedNamesAndCancel) {
   EXPECT_EQ(b.settings.writeCount, writes);
 }
 
-TEST(HtmlGenSettings, DefaultsAndTheEighteenKeysWritten) {
-  MemorySettingsStore s;
+TEST(HtmlGenSettings, TheEighteenKeysOfAFirstStart) {
+  TempFolder dir;
+  FileSettingsStore s(dir.file("z.ini"));
   HtmlGenForm f;
   f.load(s);
-  EXPECT_TRUE(f.chkTag && f.chkReturn && f.chkUnixName);
-  EXPECT_FALSE(f.chkBefore || f.chkAfter || f.chkShortName || f.chkDownload || f.chkCosts || f.chkAddTitle);
-  EXPECT_EQ(f.txtTag, "Top");
-  f.cboSize = 2, f.txtFTP = "ftp://x/", f.chkCosts = true;
   f.save(s);
-  EXPECT_EQ(s.values.size(), 18u);
-  EXPECT_EQ(s.read("HTMLgen", "Title Size", ""), "2");
-  EXPECT_EQ(s.read("HTMLgen", "Include Costs", ""), "1");
-  EXPECT_EQ(s.read("HTMLgen", "Unix Filename", ""), "1");
-  HtmlGenForm again;
-  again.load(s);
-  EXPECT_EQ(again.txtFTP, "ftp://x/");
-  EXPECT_EQ(again.cboSize, 2);
+  EXPECT_EQ(readLines(dir.file("z.ini")),
+            (std::vector<std::string>{"[HTMLgen]", "HTML Path=", "Import Path=", "HREF Check=1", "HREF Tag=Top",
+                                      "Before Check=0", "Before File=", "Title Size=0", "Add Title Check=0",
+                                      "Title Text=", "Title Text Loc=0", "FTP Check=0", "FTP Dir=",
+                                      "Include Costs=0", "After Check=0", "After File=", "Return Check=1",
+                                      "Short Filename=0", "Unix Filename=1", ""}));
 }
 
 }  // namespace
