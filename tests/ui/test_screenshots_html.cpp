@@ -1,10 +1,7 @@
-// A picture of "Control HTML Generation" at its default size, written only when
-// ZY_SCREENSHOT_DIR names a folder.
+// A picture of "Control HTML Generation" (genhtml.png) when ZY_SCREENSHOT_DIR names a folder.
 #include <gtest/gtest.h>
 
-#include <QCheckBox>
 #include <QDir>
-#include <QLineEdit>
 
 #include "support/TestSupport.h"
 #include "ui/UiSupport.h"
@@ -20,8 +17,6 @@ TEST(Screenshots, GenHtmlWindow) {
   Bench b;
   b.settings.write("HTMLgen", "Before Check", "1");
   b.settings.write("HTMLgen", "Before File", "/home/brewer/web/header.htm");
-  b.settings.write("HTMLgen", "FTP Check", "1");
-  b.settings.write("HTMLgen", "FTP Dir", "ftp://ftp.example.org/recipes/");
   frmGenHTML w(*b.wb);
   w.show();
   saveScreenshot(w, dir, "genhtml");
