@@ -268,9 +268,8 @@ void frmRecipeList::showEnabledStates() {
   tbDelete->setEnabled(m.deleteEnabled);
   mnuFileExport->setEnabled(m.exportEnabled);
   tbExport->setEnabled(m.exportEnabled);
-  const bool web = m.genHTMLEnabled && openGenHTML;
-  mnuFileGenHTML->setEnabled(web);
-  tbGenHTML->setEnabled(web);
+  mnuFileGenHTML->setEnabled(m.genHTMLEnabled);
+  tbGenHTML->setEnabled(m.genHTMLEnabled);
   const int count = static_cast<int>(lenientValue(m.tree.tag));
   statusBar()->showMessage(count == 1 ? "1 recipe" : QString("%1 recipes").arg(count));
 }
