@@ -30,7 +30,10 @@
 #include "ui/frmRecipe.h"
 #include "ui/frmRecipeList.h"
 #include "ui/QtPrompter.h"
+#include "ui/ReportActions.h"
+#include "ui/frmPreview.h"
 #include "core/text.h"
+#include "recipes/RecipeReport.h"
 
 namespace zy {
 
@@ -49,9 +52,12 @@ ProgramWindows::ProgramWindows(Workbench& wb, frmMain& main) : wb_(wb), main_(ma
   main.setChildOpener(frmMain::Child::Inventory, [this] { showInventory(false); });
   main.setChildOpener(frmMain::Child::ShoppingList, [this] { showShoppingList(); });
   main.installEventFilter(this);
+  // The reports' preview and printing, with their help in the help window.
+  installReportActions(wb, [this](const QString& page) { showHelpTopic(page); });
 }
 
 ProgramWindows::~ProgramWindows() {
+  uninstallReportActions();
   // The editor's window takes its companions with it; the list forgets the tree's refresh.
   beerStyles_.reset();
   hopsUtilization_.reset();
@@ -102,6 +108,10 @@ frmRecipe& ProgramWindows::recipe() {
       showBeerStyles(recipe_->editor().cboBeerStyleText);
     });
     r.setToolOpener(RecipeTool::BatchLog, [this] { showBatchLogList(); });
+    r.setToolOpener(RecipeTool::PrintPreview,
+                    [this] { previewReport(recipe_.get(), recipeReportRequest(recipe_->editor())); });
+    r.setToolOpener(RecipeTool::Print, [this] { printReportNow(recipe_.get(), recipeReportRequest(recipe_->editor())); });
+    r.setToolOpener(RecipeTool::PageSetup, [this] { pageSetup(recipe_.get()); });
     // A change in the fermentation window shows on the editor's save button.
     FermentationForm& f = r.editor().fermentation;
     f.onChanged = [&r] {
@@ -460,6 +470,7 @@ void ProgramWindows::openGenHTML(QWidget* over, bool fromEditor) {
 }
 
 void ProgramWindows::closeAll() {
+  if (frmPreview* preview = previewWindow(false)) preview->close();
   if (recReader_) recReader_->close();
   if (beerStyles_) beerStyles_->close();
   closeCalculators();

@@ -15,6 +15,8 @@
 #include "core/text.h"
 #include "recipes/RecipeStore.h"
 #include "ui/QtPrompter.h"
+#include "ui/ReportActions.h"
+#include "recipes/RecipeListReport.h"
 #include "ui/RecipeIcons.h"
 #include "ui/TopicIcons.h"
 #include "ui/frmFind.h"
@@ -110,7 +112,13 @@ void frmRecipeList::buildMenus() {
   mnuFilePreview = file->addAction(recipeIcon("Preview"), "Print Pre&view...");
   mnuFilePrintNow = file->addAction(toolIcon(ToolIcon::Print), "&Print");
   mnuFileGenHTML = file->addAction(recipeIcon("genHTML"), "&Save as Web Page...");
-  for (QAction* a : {mnuFilePageSetup, mnuFilePreview, mnuFilePrintNow, mnuFileGenHTML}) {
+  connect(mnuFilePageSetup, &QAction::triggered, this, [this] { pageSetup(this); });
+  setTip(mnuFilePageSetup, "Paper, orientation and margins for printing");
+  connect(mnuFilePreview, &QAction::triggered, this, [this] { previewReport(this, recipeListReportRequest(wb_)); });
+  setTip(mnuFilePreview, "Preview the list of recipes as it prints");
+  connect(mnuFilePrintNow, &QAction::triggered, this, [this] { printReportNow(this, recipeListReportRequest(wb_)); });
+  setTip(mnuFilePrintNow, "Print the list of recipes");
+  for (QAction* a : {mnuFileGenHTML}) {
     a->setEnabled(false);
     setTip(a, kComesWithReports);
   }
