@@ -26,7 +26,6 @@
 namespace zy {
 
 namespace {
-const char* const kComesWithReports = "Comes with the reports";
 const char* const kHelpPage = "recipe-list.html";
 constexpr int kKeyRole = Qt::UserRole;
 
@@ -118,10 +117,7 @@ void frmRecipeList::buildMenus() {
   setTip(mnuFilePreview, "Preview the list of recipes as it prints");
   connect(mnuFilePrintNow, &QAction::triggered, this, [this] { printReportNow(this, recipeListReportRequest(wb_)); });
   setTip(mnuFilePrintNow, "Print the list of recipes");
-  for (QAction* a : {mnuFileGenHTML}) {
-    a->setEnabled(false);
-    setTip(a, kComesWithReports);
-  }
+  mnuFileGenHTML->setEnabled(false);  // until a recipe is selected
   connect(mnuFileGenHTML, &QAction::triggered, this, [this] { mnuFileGenHTML_Click(); });
   setTip(mnuFileGenHTML, "Write the selected recipe as a web page");
   file->addSeparator();
