@@ -18,6 +18,7 @@
 #include "ui/frmBatchLogList.h"
 #include "ui/frmComments.h"
 #include "ui/frmFermentation.h"
+#include "ui/frmGenHTML.h"
 #include "ui/frmHelp.h"
 #include "ui/frmInvCheck.h"
 #include "ui/frmInventory.h"
@@ -76,6 +77,7 @@ frmRecipeList& ProgramWindows::recipeList() {
     l.showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
     l.showHelp = [this](int where) { main_.showHelp(where); };
     l.openProperties = [this] { openProperties(recipeList_.get()); };
+    l.openGenHTML = [this] { openGenHTML(recipeList_.get(), false); };
     l.setViewOpener(frmRecipeList::View::BeerStyles, [this] { showBeerStyles(); });
   }
   return *recipeList_;
@@ -90,6 +92,7 @@ frmRecipe& ProgramWindows::recipe() {
     r.openComments = [this] { showComments(); };
     r.setToolOpener(RecipeTool::RecipeReader, [this] { showRecReader(); });
     r.openProperties = [this] { openProperties(recipe_.get()); };
+    r.openGenHTML = [this] { openGenHTML(recipe_.get(), true); };
     r.showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
     r.showHelp = [this](int where) { main_.showHelp(where); };
     r.setToolOpener(RecipeTool::HopsUtilization, [this] { showHopsUtilization(); });
@@ -452,6 +455,19 @@ void ProgramWindows::showComments() {
 }
 
 void ProgramWindows::showRecReader() { bringForward(recReader()); }
+
+void ProgramWindows::openGenHTML(QWidget* over, bool fromEditor) {
+  if (fromEditor && recipe_ && recipe_->editor().recipeChanged()) {
+    const Answer a = wb_.prompter.message("The recipe has changes that are not saved." "\r\n"
+                                          "Save it first, so that the web page shows them?",
+                                          "Generate HTML", Icon::Question, Buttons::YesNoCancel, Answer::Yes);
+    if (a == Answer::Cancel) return;
+    if (a == Answer::Yes && !recipe_->mnuFileSave_Click()) return;
+  }
+  frmGenHTML dlg(wb_, over);
+  dlg.showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
+  dlg.exec();
+}
 
 void ProgramWindows::closeAll() {
   if (frmPreview* preview = previewWindow(false)) preview->close();
