@@ -18,6 +18,7 @@
 #include "ui/frmBatchLogList.h"
 #include "ui/frmComments.h"
 #include "ui/frmFermentation.h"
+#include "ui/frmGenHTML.h"
 #include "ui/frmHelp.h"
 #include "ui/frmInvCheck.h"
 #include "ui/frmInventory.h"
@@ -29,7 +30,10 @@
 #include "ui/frmRecipe.h"
 #include "ui/frmRecipeList.h"
 #include "ui/QtPrompter.h"
+#include "ui/ReportActions.h"
+#include "ui/frmPreview.h"
 #include "core/text.h"
+#include "recipes/RecipeReport.h"
 
 namespace zy {
 
@@ -48,9 +52,12 @@ ProgramWindows::ProgramWindows(Workbench& wb, frmMain& main) : wb_(wb), main_(ma
   main.setChildOpener(frmMain::Child::Inventory, [this] { showInventory(false); });
   main.setChildOpener(frmMain::Child::ShoppingList, [this] { showShoppingList(); });
   main.installEventFilter(this);
+  // The reports' preview and printing, with their help in the help window.
+  installReportActions(wb, [this](const QString& page) { showHelpTopic(page); });
 }
 
 ProgramWindows::~ProgramWindows() {
+  uninstallReportActions();
   // The editor's window takes its companions with it; the list forgets the tree's refresh.
   beerStyles_.reset();
   hopsUtilization_.reset();
@@ -70,6 +77,7 @@ frmRecipeList& ProgramWindows::recipeList() {
     l.showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
     l.showHelp = [this](int where) { main_.showHelp(where); };
     l.openProperties = [this] { openProperties(recipeList_.get()); };
+    l.openGenHTML = [this] { openGenHTML(recipeList_.get(), false); };
     l.setViewOpener(frmRecipeList::View::BeerStyles, [this] { showBeerStyles(); });
   }
   return *recipeList_;
@@ -84,6 +92,7 @@ frmRecipe& ProgramWindows::recipe() {
     r.openComments = [this] { showComments(); };
     r.setToolOpener(RecipeTool::RecipeReader, [this] { showRecReader(); });
     r.openProperties = [this] { openProperties(recipe_.get()); };
+    r.openGenHTML = [this] { openGenHTML(recipe_.get(), true); };
     r.showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
     r.showHelp = [this](int where) { main_.showHelp(where); };
     r.setToolOpener(RecipeTool::HopsUtilization, [this] { showHopsUtilization(); });
@@ -99,6 +108,10 @@ frmRecipe& ProgramWindows::recipe() {
       showBeerStyles(recipe_->editor().cboBeerStyleText);
     });
     r.setToolOpener(RecipeTool::BatchLog, [this] { showBatchLogList(); });
+    r.setToolOpener(RecipeTool::PrintPreview,
+                    [this] { previewReport(recipe_.get(), recipeReportRequest(recipe_->editor())); });
+    r.setToolOpener(RecipeTool::Print, [this] { printReportNow(recipe_.get(), recipeReportRequest(recipe_->editor())); });
+    r.setToolOpener(RecipeTool::PageSetup, [this] { pageSetup(recipe_.get()); });
     // A change in the fermentation window shows on the editor's save button.
     FermentationForm& f = r.editor().fermentation;
     f.onChanged = [&r] {
@@ -443,7 +456,21 @@ void ProgramWindows::showComments() {
 
 void ProgramWindows::showRecReader() { bringForward(recReader()); }
 
+void ProgramWindows::openGenHTML(QWidget* over, bool fromEditor) {
+  if (fromEditor && recipe_ && recipe_->editor().recipeChanged()) {
+    const Answer a = wb_.prompter.message("The recipe has changes that are not saved." "\r\n"
+                                          "Save it first, so that the web page shows them?",
+                                          "Generate HTML", Icon::Question, Buttons::YesNoCancel, Answer::Yes);
+    if (a == Answer::Cancel) return;
+    if (a == Answer::Yes && !recipe_->mnuFileSave_Click()) return;
+  }
+  frmGenHTML dlg(wb_, over);
+  dlg.showHelpTopic = [this](const QString& page) { showHelpTopic(page); };
+  dlg.exec();
+}
+
 void ProgramWindows::closeAll() {
+  if (frmPreview* preview = previewWindow(false)) preview->close();
   if (recReader_) recReader_->close();
   if (beerStyles_) beerStyles_->close();
   closeCalculators();

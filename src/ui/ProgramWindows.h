@@ -89,6 +89,9 @@ class ProgramWindows : public QObject {
   void showInvCheck();
   // The logs of the open recipe (once it has been saved).
   void showBatchLogList();
+  // "Control HTML Generation", modal over `over`, on the current recipe. From the editor, changes
+  // not yet saved are offered a save first, so that the page shows them.
+  void openGenHTML(QWidget* over, bool fromEditor);
   // Closes every window that was created (they close for good while appClosing is set).
   void closeAll();
 

@@ -195,6 +195,10 @@ void frmRecipe::buildMenus() {
   mnuFilePreview->setIcon(recipeIcon("Preview"));
   mnuFilePrintNow = toolAction(RecipeTool::Print, file, "&Print");
   mnuFilePrintNow->setIcon(toolIcon(ToolIcon::Print));
+  mnuFileGenHTML = file->addAction(recipeIcon("genHTML"), "Save as &Web Page...", this, [this] {
+    if (openGenHTML) openGenHTML();
+  });
+  setTip(mnuFileGenHTML, "Write the recipe as a web page");
   file->addSeparator();
   mnuFileBatchLog = toolAction(RecipeTool::BatchLog, file, "&Batch Log");
   mnuFileBatchLog->setIcon(recipeIcon("BatchLog"));

@@ -74,6 +74,8 @@ class frmRecipe : public QMainWindow {
 
   // The editor's own companions and the program's help, set by the holder of the windows.
   std::function<void()> openScale, openFermentation, openComments, openProperties;
+  // "Control HTML Generation" over the editor, for the recipe it shows.
+  std::function<void()> openGenHTML;
   std::function<void(const QString&)> showHelpTopic;
   std::function<void(int)> showHelp;  // 1 index, 2 search
 
@@ -110,6 +112,7 @@ class frmRecipe : public QMainWindow {
   QAction *mnuFileSave = nullptr, *mnuFileSaveAs = nullptr, *mnuFilePageSetup = nullptr, *mnuFilePreview = nullptr,
           *mnuFilePrintNow = nullptr, *mnuFileBatchLog = nullptr, *mnuFileScaleQuantities = nullptr,
           *mnuFileProperties = nullptr, *mnuFileClose = nullptr;
+  QAction* mnuFileGenHTML = nullptr;
   QAction *mnuInstructMashInfo = nullptr, *mnuInstructWaterMgmt = nullptr, *mnuInstructFermetationPriming = nullptr,
           *mnuInstructComments = nullptr;
   QAction *mnuToolsHopsUtilization = nullptr, *mnuToolsAdvanced = nullptr, *mnuToolsStarterKraeusening = nullptr,

@@ -15,6 +15,8 @@
 #include "core/text.h"
 #include "recipes/RecipeStore.h"
 #include "ui/QtPrompter.h"
+#include "ui/ReportActions.h"
+#include "recipes/RecipeListReport.h"
 #include "ui/RecipeIcons.h"
 #include "ui/TopicIcons.h"
 #include "ui/frmFind.h"
@@ -24,7 +26,6 @@
 namespace zy {
 
 namespace {
-const char* const kComesWithReports = "Comes with the reports";
 const char* const kHelpPage = "recipe-list.html";
 constexpr int kKeyRole = Qt::UserRole;
 
@@ -110,10 +111,15 @@ void frmRecipeList::buildMenus() {
   mnuFilePreview = file->addAction(recipeIcon("Preview"), "Print Pre&view...");
   mnuFilePrintNow = file->addAction(toolIcon(ToolIcon::Print), "&Print");
   mnuFileGenHTML = file->addAction(recipeIcon("genHTML"), "&Save as Web Page...");
-  for (QAction* a : {mnuFilePageSetup, mnuFilePreview, mnuFilePrintNow, mnuFileGenHTML}) {
-    a->setEnabled(false);
-    setTip(a, kComesWithReports);
-  }
+  connect(mnuFilePageSetup, &QAction::triggered, this, [this] { pageSetup(this); });
+  setTip(mnuFilePageSetup, "Paper, orientation and margins for printing");
+  connect(mnuFilePreview, &QAction::triggered, this, [this] { previewReport(this, recipeListReportRequest(wb_)); });
+  setTip(mnuFilePreview, "Preview the list of recipes as it prints");
+  connect(mnuFilePrintNow, &QAction::triggered, this, [this] { printReportNow(this, recipeListReportRequest(wb_)); });
+  setTip(mnuFilePrintNow, "Print the list of recipes");
+  mnuFileGenHTML->setEnabled(false);  // until a recipe is selected
+  connect(mnuFileGenHTML, &QAction::triggered, this, [this] { mnuFileGenHTML_Click(); });
+  setTip(mnuFileGenHTML, "Write the selected recipe as a web page");
   file->addSeparator();
   mnuFileProperties = file->addAction("Propert&ies", this, [this] {
     if (openProperties) openProperties();
@@ -266,7 +272,8 @@ void frmRecipeList::showEnabledStates() {
   tbDelete->setEnabled(m.deleteEnabled);
   mnuFileExport->setEnabled(m.exportEnabled);
   tbExport->setEnabled(m.exportEnabled);
-  // The web page waits for the reports, whatever the selection.
+  mnuFileGenHTML->setEnabled(m.genHTMLEnabled);
+  tbGenHTML->setEnabled(m.genHTMLEnabled);
   const int count = static_cast<int>(lenientValue(m.tree.tag));
   statusBar()->showMessage(count == 1 ? "1 recipe" : QString("%1 recipes").arg(count));
 }
@@ -307,6 +314,15 @@ void frmRecipeList::mnuFileExport_Click() {
       wb_.prompter.saveFile("Export Recipe", "Recipe Files (*.zyr)|*.zyr;*.rec|All Files (*.*)|*.*", initial);
   if (!path || path->empty()) return;
   m.exportRecipeFile(wb_, key, *path);
+}
+
+// The web page of the selected recipe: the recipe is loaded, then the window asks how the page
+// starts and ends.
+void frmRecipeList::mnuFileGenHTML_Click() {
+  const RecipeNode* n = model().selectedKey.empty() ? nullptr : model().tree.find(model().selectedKey);
+  if (!n || !n->isLeaf() || !openGenHTML) return;
+  if (!loadRecipe(wb_, RecipeList::recipeNumber(n->key))) return;
+  openGenHTML();
 }
 
 bool frmRecipeList::findNext(const std::string& part) {

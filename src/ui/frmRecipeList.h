@@ -30,6 +30,8 @@ class frmRecipeList : public QMainWindow {
   std::function<void(const QString&)> showHelpTopic;  // a page of the help
   std::function<void(int)> showHelp;                 // 0 contents, 1 index, 2 search
   std::function<void()> openProperties;
+  // Opens "Control HTML Generation" modally over the list, on the recipe just loaded.
+  std::function<void()> openGenHTML;
   // The View menu's other windows; without an opener the entry stays disabled.
   enum class View { Inventory, BeerStyles };
   void setViewOpener(View which, std::function<void()> open);
@@ -44,6 +46,7 @@ class frmRecipeList : public QMainWindow {
   void mnuFileNew_Click();
   void mnuFileImport_Click();
   void mnuFileExport_Click();
+  void mnuFileGenHTML_Click();
   void mnuFileFind_Click();
   void mnuFileDelete_Click();
   void mnuSortBy_Click(int index);

@@ -238,8 +238,9 @@ TEST_F(WindowsTest, ExportAndImportRememberTheirFoldersAndSortByStyle) {
 TEST_F(WindowsTest, ToolsWithoutAWindowStayDisabledWithATip) {
   open("R1");
   frmRecipe& r = editor();
-  EXPECT_FALSE(r.tb["Preview"]->isEnabled());
-  EXPECT_EQ(r.tb["Preview"]->toolTip(), "Comes with the reports");
+  EXPECT_FALSE(r.mnuToolsGenerateLabel->isEnabled());
+  EXPECT_EQ(r.mnuToolsGenerateLabel->toolTip(), "Comes with the label tools");
+  EXPECT_EQ(r.tb["Preview"]->toolTip(), "Preview the recipe report");  // the reports have come
   EXPECT_TRUE(r.cmdAddIngredients->isEnabled());  // the inventory has come
   int opened = 0;
   r.setToolOpener(RecipeTool::PrintPreview, [&] { ++opened; });

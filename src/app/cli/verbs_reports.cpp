@@ -35,7 +35,7 @@ int verbReport(Context& c) {
       ++i;
       continue;
     }
-    if (c.args[i].rfind("--", 0) == 0) return c.usage(reportUsage());
+    // Other options belong to the report (its sort, say): its builder reads them.
     args.push_back(c.args[i]);
     raw.push_back(c.rawArgs[i]);
   }
