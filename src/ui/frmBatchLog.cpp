@@ -22,10 +22,12 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "batchlog/BatchLogReport.h"
 #include "core/dates.h"
 #include "core/text.h"
 #include "ui/QtPrompter.h"
 #include "ui/RecipeIcons.h"
+#include "ui/ReportActions.h"
 #include "ui/TopicIcons.h"
 #include "ui/frmBatchLogCmts.h"
 #include "ui/WindowPlacement.h"
@@ -157,11 +159,13 @@ frmBatchLog::frmBatchLog(Workbench& wb, BatchLogEditor& editor, QWidget* parent)
   mnuFileSave->setShortcut(QKeySequence::Save);
   mnuFilePreview = file->addAction(recipeIcon("Preview"), "Print Pre&view...");
   mnuFilePrint = file->addAction(toolIcon(ToolIcon::Print), "&Print");
-  for (QAction* a : {mnuFilePreview, mnuFilePrint}) {
-    a->setEnabled(false);
-    a->setToolTip("Comes with the batch log report");
-    a->setStatusTip("Comes with the batch log report");
-  }
+  mnuFilePreview->setToolTip("See the log as it prints, with the mash efficiency reached");
+  mnuFilePrint->setToolTip("Print the log");
+  // The report reads the log as the window shows it, saved or not.
+  connect(mnuFilePreview, &QAction::triggered, this,
+          [this] { previewReport(this, batchLogReportRequest(ed_, wb_.recipe.rec.recipeName, wb_.prompter)); });
+  connect(mnuFilePrint, &QAction::triggered, this,
+          [this] { printReportNow(this, batchLogReportRequest(ed_, wb_.recipe.rec.recipeName, wb_.prompter)); });
   file->addSeparator();
   mnuFileClose = file->addAction(style()->standardIcon(QStyle::SP_DialogCloseButton), "&Close", this, &QWidget::close);
   file->setToolTipsVisible(true);

@@ -4,17 +4,20 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QStyle>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "batchlog/BrewingDayForm.h"
 #include "core/measures.h"
 #include "core/text.h"
 #include "recipes/RecipeEditor.h"
 #include "recipes/RecipeStore.h"
 #include "ui/QtPrompter.h"
 #include "ui/RecipeIcons.h"
+#include "ui/ReportActions.h"
 #include "ui/TopicIcons.h"
 #include "ui/frmBatchLog.h"
 #include "ui/WindowPlacement.h"
@@ -27,6 +30,21 @@ frmBatchLogList::frmBatchLogList(Workbench& wb, RecipeEditor& recipe, QWidget* p
   setObjectName("frmBatchLogList");
   setWindowTitle("Batch Logs");
   setWindowIcon(recipeIcon("BatchLog"));
+
+  // The form is drawn from the recipe open in the editor, as it stands.
+  auto brewDay = [this] { return brewingDayFormRequest(wb_.recipe.rec, recipe_.sheet); };
+  QMenu* file = menuBar()->addMenu("&File");
+  mnuFilePageSetup = file->addAction("Print Set&up...", this, [this] { pageSetup(this); });
+  mnuFilePageSetup->setToolTip("Paper, orientation and margins for printing");
+  mnuFileBrewDayPreview = file->addAction(recipeIcon("Preview"), "Brewing Day Form Pre&view...", this,
+                                          [this, brewDay] { previewReport(this, brewDay()); });
+  mnuFileBrewDayPreview->setToolTip("A form for this recipe to fill in by hand on brew day");
+  mnuFileBrewDayPrint = file->addAction(toolIcon(ToolIcon::Print), "&Print Brewing Day Form", this,
+                                        [this, brewDay] { printReportNow(this, brewDay()); });
+  mnuFileBrewDayPrint->setToolTip("Print the brewing day form of this recipe");
+  file->addSeparator();
+  mnuFileClose = file->addAction("&Close", this, &QWidget::close);
+  file->setToolTipsVisible(true);
 
   auto* central = new QWidget(this);
   auto* box = new QVBoxLayout(central);
@@ -56,6 +74,9 @@ frmBatchLogList::frmBatchLogList(Workbench& wb, RecipeEditor& recipe, QWidget* p
   cmdNew = button("cmdNew", "&New", "New", "Start the log of a new brew of this recipe");
   cmdOpen = button("cmdOpen", "&Open", "Open", "Open the selected log");
   cmdDelete = button("cmdDelete", "&Delete", "Delete", "Delete the selected log");
+  buttons->addSpacing(8);
+  cmdBrewDay = button("cmdBrewDay", "Brewing Day Fo&rm...", "Preview", "A form for this recipe to fill in by hand on brew day");
+  connect(cmdBrewDay, &QPushButton::clicked, mnuFileBrewDayPreview, &QAction::trigger);
   buttons->addStretch(1);
   cmdHelp = new QPushButton(toolIcon(ToolIcon::Help), "&Help", central);
   cmdHelp->setObjectName("cmdHelp");

@@ -10,6 +10,7 @@
 #include "batchlog/BatchLogStore.h"
 #include "workbench/Workbench.h"
 
+class QAction;
 class QLabel;
 class QPushButton;
 class QTreeWidget;
@@ -42,6 +43,10 @@ class frmBatchLogList : public QMainWindow {
   QLabel* lblTitle = nullptr;
   QTreeWidget* lvBatchLog = nullptr;
   QPushButton *cmdNew = nullptr, *cmdOpen = nullptr, *cmdDelete = nullptr, *cmdClose = nullptr, *cmdHelp = nullptr;
+  // The brewing day form of the open recipe, to fill in by hand on the day.
+  QPushButton* cmdBrewDay = nullptr;
+  QAction *mnuFilePageSetup = nullptr, *mnuFileBrewDayPreview = nullptr, *mnuFileBrewDayPrint = nullptr,
+          *mnuFileClose = nullptr;
 
  protected:
   void closeEvent(QCloseEvent* event) override;

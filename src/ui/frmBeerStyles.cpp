@@ -18,7 +18,9 @@
 #include <algorithm>
 
 #include "core/text.h"
+#include "styles/BeerStylesReport.h"
 #include "ui/QtPrompter.h"
+#include "ui/ReportActions.h"
 #include "ui/HelpButton.h"
 #include "ui/WindowPlacement.h"
 #include "ui/TopicIcons.h"
@@ -110,6 +112,17 @@ frmBeerStyles::frmBeerStyles(Workbench& wb, QWidget* parent)
   mnuFileNewRecipe = file->addAction(tr("New &Recipe from Style"), this, [this] {
     if (newRecipe && selectedRow() >= 0) newRecipe(selectedRow());
   });
+  file->addSeparator();
+  mnuFilePageSetup = file->addAction(tr("Print Set&up..."), this, [this] { pageSetup(this); });
+  mnuFilePageSetup->setToolTip(tr("Paper, orientation and margins for printing"));
+  mnuFilePreview = file->addAction(toolIcon(ToolIcon::Print), tr("Print Pre&view..."), this,
+                                   [this] { previewReport(this, reportRequest(false)); });
+  mnuFilePreview->setToolTip(tr("See the selected style as it prints, with its description"));
+  mnuFilePreviewCategory = file->addAction(tr("Preview the St&yle's Category..."), this,
+                                           [this] { previewReport(this, reportRequest(true)); });
+  mnuFilePreviewCategory->setToolTip(tr("See every style of the selected style's category as it prints"));
+  mnuFilePrint = file->addAction(tr("&Print"), this, [this] { printReportNow(this, reportRequest(false)); });
+  mnuFilePrint->setToolTip(tr("Print the selected style"));
   file->addSeparator();
   mnuFileClose = file->addAction(tr("&Close"), this, &QWidget::close);
   QMenu* tools = menuBar()->addMenu(tr("&Tools"));
@@ -299,6 +312,7 @@ void frmBeerStyles::updateCommands() {
   for (QWidget* w : std::initializer_list<QWidget*>{cmdChange, cmdDelete}) w->setEnabled(custom);
   mnuFileChangeStyle->setEnabled(custom);
   mnuFileDeleteStyle->setEnabled(custom);
+  for (QAction* a : {mnuFilePreview, mnuFilePreviewCategory, mnuFilePrint}) a->setEnabled(row >= 0);
   const QString onlyCustom = tr("Only your own (Custom) styles can be changed or deleted");
   for (QAction* a : {mnuFileChangeStyle, mnuFileDeleteStyle}) a->setToolTip(custom ? a->text().remove('&') : onlyCustom);
   cmdChange->setToolTip(custom ? tr("Change the selected style") : onlyCustom);
@@ -371,6 +385,16 @@ void frmBeerStyles::closeEvent(QCloseEvent* event) {
   for (int c = 0; c < 3; ++c) s.columnWidths[static_cast<size_t>(c)] = lvStyles->columnWidth(c);
   s.write(wb_.settings);
   closeKeepingPlacement(*this, wb_, StyleBrowserSettings::kSection, event);
+}
+
+ReportRequest frmBeerStyles::reportRequest(bool wholeCategory) const {
+  const int row = selectedRow();
+  std::optional<RecipeStyleValues> values;
+  if (recipeValues) values = recipeValues();
+  if (!wholeCategory || row < 0) return beerStylesReportRequest(wb_.styles, {row}, "", values);
+  const int key = wb_.styles.BeerStyles[static_cast<size_t>(row)].categoryIndex;
+  return beerStylesReportRequest(wb_.styles, stylesOfCategory(wb_.styles, key), categoryLabel(wb_.styles, key, true),
+                                 values);
 }
 
 }  // namespace zy

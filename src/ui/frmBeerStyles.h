@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 
+#include "reports/ReportCatalog.h"
 #include "styles/StyleEditor.h"
 #include "workbench/Workbench.h"
 
@@ -56,6 +57,10 @@ class frmBeerStyles : public QMainWindow {
   QAction *mnuFileNewStyle = nullptr, *mnuFileChangeStyle = nullptr, *mnuFileDeleteStyle = nullptr,
           *mnuFileNewRecipe = nullptr, *mnuFileClose = nullptr, *mnuToolsCategories = nullptr,
           *mnuToolsStats = nullptr, *mnuHelpContents = nullptr;
+  // The printed style: the selected one, or every style of its category.
+  QAction *mnuFilePageSetup = nullptr, *mnuFilePreview = nullptr, *mnuFilePreviewCategory = nullptr,
+          *mnuFilePrint = nullptr;
+  ReportRequest reportRequest(bool wholeCategory) const;
 
   static constexpr const char* kNewRecipeTip = "Comes with the brewing calculators";
 

@@ -20,7 +20,9 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "calculators/HopsUtilizationReport.h"
 #include "ui/QtPrompter.h"
+#include "ui/ReportActions.h"
 #include "ui/frmHelp.h"
 #include "ui/WindowPlacement.h"
 #include "workbench/Startup.h"
@@ -285,12 +287,13 @@ frmHopsUtilization::frmHopsUtilization(Workbench& wb, QWidget* parent) : QWidget
 
   cmdAccept = makeButton("&Accept", tr("Use this curve for every recipe from now on"), this);
   cmdCancel = makeButton("&Cancel", tr("Close without changing the curve in use"), this);
-  cmdPrint = makeButton("&Print", tr("Printing the curves comes with the program's report printing"), this);
-  cmdPrint->setEnabled(false);
+  cmdPrint = makeButton("&Print", tr("Print the curves, their table and the gravity adjustment as they stand"), this);
   cmdHelp = makeButton("&Help", tr("Help on the hops utilization tables (F1)"), this);
   connect(cmdAccept, &QPushButton::clicked, this, &frmHopsUtilization::cmdAccept_Click);
   connect(cmdCancel, &QPushButton::clicked, this, &frmHopsUtilization::cmdCancel_Click);
   connect(cmdHelp, &QPushButton::clicked, this, &frmHopsUtilization::showHelp);
+  // The report shows the curve being edited, before Accept.
+  connect(cmdPrint, &QPushButton::clicked, this, [this] { previewReport(this, hopsUtilizationReportRequest(model)); });
   auto* f1 = new QShortcut(QKeySequence::HelpContents, this);
   connect(f1, &QShortcut::activated, this, &frmHopsUtilization::showHelp);
 

@@ -24,9 +24,11 @@
 #include "core/numfmt.h"
 #include "core/text.h"
 #include "inventory/InventoryCsv.h"
+#include "inventory/InventoryReport.h"
 #include "inventory/InventoryStartup.h"
 #include "recipes/RecipeEditor.h"
 #include "ui/QtPrompter.h"
+#include "ui/ReportActions.h"
 #include "ui/HelpButton.h"
 #include "ui/WindowPlacement.h"
 #include "ui/TopicIcons.h"
@@ -151,6 +153,15 @@ frmInventory::frmInventory(Workbench& wb, QWidget* parent) : QMainWindow(parent,
   mnuFileImportAdd = imp->addAction("&Add to Existing Inventory Items...");
   mnuFileExport = file->addAction("&Export...");
   file->addSeparator();
+  mnuFilePageSetup = file->addAction("Print Set&up...", this, [this] { pageSetup(this); });
+  mnuFilePageSetup->setToolTip("Paper, orientation and margins for printing");
+  mnuFilePreview = file->addAction(toolIcon(ToolIcon::Print), "Print Pre&view...", this,
+                                   [this] { previewReport(this, reportRequest()); });
+  mnuFilePreview->setToolTip("See the stock of this category as it prints");
+  mnuFilePrint = file->addAction("&Print", this, [this] { printReportNow(this, reportRequest()); });
+  mnuFilePrint->setToolTip("Print the stock of this category");
+  file->setToolTipsVisible(true);
+  file->addSeparator();
   mnuFileClose = file->addAction("&Close");
   QMenu* edit = menuBar()->addMenu("&Edit");
   mnuEditAdd = edit->addAction(style()->standardIcon(QStyle::SP_FileIcon), "&Add Item...");
@@ -183,6 +194,10 @@ frmInventory::frmInventory(Workbench& wb, QWidget* parent) : QMainWindow(parent,
     connect(t, &QAction::triggered, a, &QAction::trigger);
     connect(a, &QAction::changed, t, [a, t] { t->setEnabled(a->isEnabled()); });
   }
+  tb->addSeparator();
+  QAction* tbPreview = tb->addAction(toolIcon(ToolIcon::Print), "Preview");
+  tbPreview->setToolTip("See the stock of this category as it prints");
+  connect(tbPreview, &QAction::triggered, mnuFilePreview, &QAction::trigger);
   tb->addSeparator();
   QAction* tbHelp = tb->addAction(toolIcon(ToolIcon::Help), "Help");
 
@@ -479,6 +494,14 @@ void frmInventory::closeEvent(QCloseEvent* event) {
   model.writeSettings();
   findDialog->hide();
   closeKeepingPlacement(*this, wb_, kSection, event);
+}
+
+ReportRequest frmInventory::reportRequest() {
+  // "Non Zero Only" and the order of the list apply on paper too; the comments print as notes
+  // unless the settings say otherwise.
+  InventoryReportOptions options;
+  options.printComments = lenientValue(wb_.settings.read(InventoryWindowModel::kSection, "Print Comments", "1")) != 0;
+  return inventoryReportRequest(model.list(), model.visibleRows(), options, wb_.clock.now(), wb_.prompter);
 }
 
 }  // namespace zy

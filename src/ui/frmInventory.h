@@ -8,6 +8,7 @@
 #include <map>
 
 #include "inventory/InventoryWindow.h"
+#include "reports/ReportCatalog.h"
 #include "workbench/Workbench.h"
 
 class QAction;
@@ -87,6 +88,9 @@ class frmInventory : public QMainWindow {
   QPushButton *cmdAddToRecipe = nullptr, *cmdClose = nullptr;
   QAction *mnuFileImportReplace = nullptr, *mnuFileImportAdd = nullptr, *mnuFileExport = nullptr,
           *mnuFileClose = nullptr;
+  // The printed stock of the category shown, in the rows and order shown.
+  QAction *mnuFilePageSetup = nullptr, *mnuFilePreview = nullptr, *mnuFilePrint = nullptr;
+  ReportRequest reportRequest();
   QAction *mnuEditAdd = nullptr, *mnuEditEdit = nullptr, *mnuEditDelete = nullptr, *mnuEditComments = nullptr,
           *mnuEditFind = nullptr, *mnuEditShopping = nullptr, *mnuEditAddToRecipe = nullptr;
   QAction* mnuViewNonZero = nullptr;

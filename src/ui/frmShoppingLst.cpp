@@ -12,7 +12,9 @@
 
 #include "inventory/InventoryStartup.h"
 #include "inventory/ShoppingList.h"
+#include "inventory/ShoppingListReport.h"
 #include "ui/QtPrompter.h"
+#include "ui/ReportActions.h"
 #include "ui/HelpButton.h"
 #include "ui/WindowPlacement.h"
 #include "ui/TopicIcons.h"
@@ -20,10 +22,6 @@
 #include "workbench/Startup.h"
 
 namespace zy {
-
-namespace {
-const char* const kPrintTip = "Printing the shopping list comes with the report engine and its preview";
-}
 
 frmShoppingLst::frmShoppingLst(Workbench& wb, QWidget* parent) : QMainWindow(parent, Qt::Window), wb_(wb) {
   setObjectName("frmShoppingLst");
@@ -39,10 +37,10 @@ frmShoppingLst::frmShoppingLst(Workbench& wb, QWidget* parent) : QMainWindow(par
   mnuFilePageSetup = file->addAction("Print Set&up...");
   mnuFilePreview = file->addAction("Print Pre&view...");
   mnuFilePrint = file->addAction("&Print");
-  for (QAction* a : {mnuFilePageSetup, mnuFilePreview, mnuFilePrint}) {
-    a->setEnabled(false);
-    a->setToolTip(kPrintTip);
-  }
+  mnuFilePageSetup->setToolTip("Paper, orientation and margins for printing");
+  mnuFilePreview->setToolTip("See the shopping list as it prints");
+  mnuFilePrint->setToolTip("Print the shopping list");
+  file->setToolTipsVisible(true);
   file->addSeparator();
   mnuFileClose = file->addAction("&Close");
   QMenu* edit = menuBar()->addMenu("&Edit");
@@ -64,10 +62,8 @@ frmShoppingLst::frmShoppingLst(Workbench& wb, QWidget* parent) : QMainWindow(par
   tbDelete->setToolTip("Delete the selected item from the list");
   tbPrint = tb->addAction(toolIcon(ToolIcon::Print), "Print");
   tbPreview = tb->addAction(style()->standardIcon(QStyle::SP_FileDialogContentsView), "Preview");
-  for (QAction* a : {tbPrint, tbPreview}) {
-    a->setEnabled(false);
-    a->setToolTip(kPrintTip);
-  }
+  tbPrint->setToolTip("Print the shopping list");
+  tbPreview->setToolTip("See the shopping list as it prints");
   tbClose = tb->addAction(style()->standardIcon(QStyle::SP_DialogCloseButton), "Close");
   tbHelp = tb->addAction(toolIcon(ToolIcon::Help), "Help");
 
@@ -111,6 +107,13 @@ frmShoppingLst::frmShoppingLst(Workbench& wb, QWidget* parent) : QMainWindow(par
   connect(mnuFileImpAdd, &QAction::triggered, this, [this] { mnuFileImp_Click(false); });
   connect(mnuFileExport, &QAction::triggered, this, [this] { mnuFileExport_Click(); });
   connect(mnuFileClose, &QAction::triggered, this, &QWidget::close);
+  // The printed list is drawn from the list as it stands when each page is drawn.
+  auto request = [this] { return shoppingListReportRequest(wb_.shopping, wb_.clock.now()); };
+  connect(mnuFilePageSetup, &QAction::triggered, this, [this] { pageSetup(this); });
+  for (QAction* a : {mnuFilePreview, tbPreview})
+    connect(a, &QAction::triggered, this, [this, request] { previewReport(this, request()); });
+  for (QAction* a : {mnuFilePrint, tbPrint})
+    connect(a, &QAction::triggered, this, [this, request] { printReportNow(this, request()); });
   connect(tbClose, &QAction::triggered, this, &QWidget::close);
   connect(mnuEditItem, &QAction::triggered, this, [this] { mnuEditItem_Click(); });
   connect(mnuEditDelete, &QAction::triggered, this, [this] { mnuEditDelete_Click(); });

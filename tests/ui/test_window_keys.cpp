@@ -87,7 +87,7 @@ TEST_F(KeysTest, TabFollowsTheScreenLeftToRightTopToBottom) {
   recipe().selectGridRow(1);
   const std::vector<std::pair<QWidget*, size_t>> windows = {  // a window and its count of stops
       {&recipe(), 22},            {&w.scale(), 6},        {&w.fermentation(), 18}, {&w.comments(), 4},
-      {&w.hopsUtilization(), 12}, {&w.unitMashData(), 8}, {&w.styleMatch(), 3},    {&filter, 8},
+      {&w.hopsUtilization(), 13}, {&w.unitMashData(), 8}, {&w.styleMatch(), 3},    {&filter, 8},
       {&w.beerStyles(), 6},       {&edit, 17},            {&categories, 8},
   };
   for (const auto& [win, stops] : windows) {
