@@ -49,10 +49,7 @@ TEST(ReportWindows, EachPrintPreviewEntryOpensThePreviewOnItsReport) {
   for (const auto& [name, window, press, number] : entries) {
     window->show();
     QApplication::processEvents();
-    // (The log window's own keys are its own affair; its print entries add none.)
-    if (window != &log) {
-      EXPECT_EQ(accessKeyClashes(window), std::vector<std::string>{}) << name;
-    }
+    EXPECT_EQ(accessKeyClashes(window), std::vector<std::string>{}) << name;
     press();
     frmPreview* p = previewWindow(false);
     ASSERT_TRUE(p && p->isVisible()) << name;
