@@ -226,14 +226,11 @@ std::string plainText(double value) {
   double a = std::fabs(value);
   char buf[64];
   if (a >= 1e15 || a < 1e-4) {
-    // 15 significant digits, or more where 15 round past the largest double (1.79769313486232E+308
-    // would read back as no number at all): the text must read back as a finite double.
-    int precision = 14;
-    for (; precision < 16; ++precision) {
-      std::snprintf(buf, sizeof buf, "%.*E", precision, value);
-      if (std::isfinite(std::strtod(buf, nullptr))) break;
-    }
-    std::snprintf(buf, sizeof buf, "%.*E", precision, value);
+    // 15 significant digits; where 15 round past the largest double (1.79769313486232E+308 would
+    // read back as no number at all), all 17, which read back as this very double, so that its
+    // text, written again, is the same.
+    std::snprintf(buf, sizeof buf, "%.14E", value);
+    if (!std::isfinite(std::strtod(buf, nullptr))) std::snprintf(buf, sizeof buf, "%.16E", value);
     std::string s(buf);
     size_t e = s.find('E');
     std::string mant = s.substr(0, e), ex = s.substr(e + 1);

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cfloat>
+#include <cmath>
 
 #include "core/measures.h"
 #include "core/numfmt.h"
@@ -80,6 +81,7 @@ TEST(NumberText, PlainTextReadsBackAsAFiniteDouble) {
       {DBL_MAX, "1.7976931348623157E+308"},  // 15 digits would round past the largest double
       {-DBL_MAX, "-1.7976931348623157E+308"},
       {1.7976931348623e308, "1.7976931348623E+308"},
+      {std::nextafter(std::nextafter(DBL_MAX, 0.0), 0.0), "1.7976931348623153E+308"},  // reads back as itself
       {DBL_MIN, "2.2250738585072E-308"},
       {4.9406564584124654e-324, "4.94065645841247E-324"},
   };
