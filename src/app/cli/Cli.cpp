@@ -5,7 +5,10 @@
 #include <memory>
 
 #include "core/numfmt.h"
+#include "calculators/HopsUtilization.h"
+#include "recipes/RecipeEditor.h"
 #include "recipes/RecipeStore.h"
+#include "styles/StyleStore.h"
 #include "core/text.h"
 
 namespace zy::cli {
@@ -46,6 +49,21 @@ bool requireStoredRecipe(Context& c, const char* verb, long n) {
   if (state == RecipeSlot::Stored || state == RecipeSlot::Corrupted) return true;
   std::fprintf(c.err, "zythara-cli: %s: there is no recipe %ld\n", verb, n);
   return false;
+}
+
+void loadProgramTables(Workbench& wb) {
+  LoadBeerStyles(wb);
+  LoadHopsUtilization(wb.hops, wb.settings);
+}
+
+int openStoredRecipe(Context& c, RecipeEditor& editor, const std::string& arg, const char* verb,
+                     const std::string& usage) {
+  long n;
+  if (!parseWhole(arg, n) || n < 1 || n > 32767) return c.usage(usage);
+  if (!requireStoredRecipe(c, verb, n)) return EXIT_REPORTED;
+  loadProgramTables(c.wb);
+  editor.initRecipeForm();
+  return editor.openRecipe(n) ? EXIT_DONE : EXIT_REPORTED;
 }
 
 bool parseWhole(const std::string& text, long& value) {

@@ -9,6 +9,10 @@
 
 #include "workbench/Workbench.h"
 
+namespace zy {
+class RecipeEditor;
+}
+
 namespace zy::cli {
 
 constexpr int EXIT_DONE = 0, EXIT_REPORTED = 1, EXIT_USAGE = 2, EXIT_TERMINATED = 3;
@@ -49,6 +53,15 @@ int run(const std::vector<std::string>& argv, std::FILE* out, std::FILE* err);
 // Checks that recipe n is in the store; otherwise (a free slot, or past the end of the file) says
 // so on standard error ("VERB: there is no recipe N") and gives false.
 bool requireStoredRecipe(Context& c, const char* verb, long n);
+
+// Loads what the editor works with at program start: the style tables and the hops curve.
+void loadProgramTables(Workbench& wb);
+
+// Opens stored recipe `arg` into the editor as the recipe list's open does, with the tables the
+// editor computes with (the styles, the hops curve) loaded first. EXIT_DONE when it is open; the
+// usage for an argument that is no recipe number; EXIT_REPORTED once it has said why not.
+int openStoredRecipe(Context& c, RecipeEditor& editor, const std::string& arg, const char* verb,
+                     const std::string& usage);
 
 // A whole number argument, or nothing.
 bool parseWhole(const std::string& text, long& value);

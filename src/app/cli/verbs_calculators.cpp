@@ -70,13 +70,7 @@ bool flagOption(const Options& o, const std::string& name, bool& v) {
 
 // Opens recipe args[0] in the editor, with the tables the editor computes with.
 int openRecipe(Context& c, RecipeEditor& editor, const char* verb, const std::string& usage) {
-  long n;
-  if (c.args.empty() || !parseWhole(c.args[0], n) || n < 1 || n > 32767) return c.usage(usage);
-  if (!requireStoredRecipe(c, verb, n)) return EXIT_REPORTED;
-  LoadBeerStyles(c.wb);
-  LoadHopsUtilization(c.wb.hops, c.wb.settings);
-  editor.initRecipeForm();
-  return editor.openRecipe(n) ? EXIT_DONE : EXIT_REPORTED;
+  return openStoredRecipe(c, editor, c.args.empty() ? std::string() : c.args[0], verb, usage);
 }
 
 int verbWater(Context& c) {

@@ -9,20 +9,10 @@
 namespace zy::cli {
 namespace {
 
-// Loads what the editor works with at program start: the style tables and the hops curve.
-void loadProgramTables(Workbench& wb) {
-  LoadBeerStyles(wb);
-  LoadHopsUtilization(wb.hops, wb.settings);
-}
-
 // Opens recipe `args[0]` in a fresh editor; EXIT_DONE when it opened.
 int openInEditor(Context& c, RecipeEditor& editor, const char* verb) {
-  long n;
-  if (c.args.size() != 1 || !parseWhole(c.args[0], n) || n < 1 || n > 32767) return c.usage(std::string(verb) + " N");
-  if (!requireStoredRecipe(c, verb, n)) return EXIT_REPORTED;
-  loadProgramTables(c.wb);
-  editor.initRecipeForm();
-  return editor.openRecipe(n) ? EXIT_DONE : EXIT_REPORTED;
+  if (c.args.size() != 1) return c.usage(std::string(verb) + " N");
+  return openStoredRecipe(c, editor, c.args[0], verb, std::string(verb) + " N");
 }
 
 int verbCalc(Context& c) {

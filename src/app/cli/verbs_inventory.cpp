@@ -37,19 +37,8 @@ bool loadCategory(Context& c, int category) {
 
 // Opens recipe N into a fresh editor, as the recipe list's open does.
 bool openRecipe(Context& c, RecipeEditor& editor, const std::string& arg, const char* verb, int& status) {
-  long n;
-  if (!parseWhole(arg, n) || n < 1 || n > 32767) {
-    status = c.usage(std::string(verb) + " N");
-    return false;
-  }
-  status = EXIT_REPORTED;
-  if (!requireStoredRecipe(c, verb, n)) return false;
-  LoadBeerStyles(c.wb);
-  LoadHopsUtilization(c.wb.hops, c.wb.settings);
-  editor.initRecipeForm();
-  if (!editor.openRecipe(n)) return false;
-  status = EXIT_DONE;
-  return true;
+  status = openStoredRecipe(c, editor, arg, verb, std::string(verb) + " N");
+  return status == EXIT_DONE;
 }
 
 int verbInventory(Context& c) {

@@ -40,19 +40,8 @@ void holding(ReportRequest& req, std::shared_ptr<T> data) {
 
 // Opens recipe `arg` into the editor as the recipe list's open does; false after saying why.
 bool openRecipeArg(Context& c, RecipeEditor& editor, const std::string& arg, const char* usage, int& status) {
-  long n;
-  if (!parseWhole(arg, n) || n < 1 || n > 32767) {
-    status = c.usage(usage);
-    return false;
-  }
-  status = EXIT_REPORTED;
-  if (!requireStoredRecipe(c, "report", n)) return false;
-  LoadBeerStyles(c.wb);
-  LoadHopsUtilization(c.wb.hops, c.wb.settings);
-  editor.initRecipeForm();
-  if (!editor.openRecipe(n)) return false;
-  status = EXIT_DONE;
-  return true;
+  status = openStoredRecipe(c, editor, arg, "report", usage);
+  return status == EXIT_DONE;
 }
 
 int buildInventory(Context& c, ReportRequest& req) {

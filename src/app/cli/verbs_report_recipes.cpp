@@ -21,15 +21,10 @@ std::unique_ptr<RecipeEditor>& reportEditor() {
 }
 
 int buildRecipeReport(Context& c, ReportRequest& request) {
-  long n;
-  if (c.args.size() != 1 || !parseWhole(c.args[0], n) || n < 1 || n > 32767) return c.usage("report recipe N");
-  if (!requireStoredRecipe(c, "report recipe", n)) return EXIT_REPORTED;
-  LoadBeerStyles(c.wb);
-  LoadHopsUtilization(c.wb.hops, c.wb.settings);
+  if (c.args.size() != 1) return c.usage("report recipe N");
   reportEditor() = std::make_unique<RecipeEditor>(c.wb);
   RecipeEditor& editor = *reportEditor();
-  editor.initRecipeForm();
-  if (!editor.openRecipe(n)) return EXIT_REPORTED;
+  if (int s = openStoredRecipe(c, editor, c.args[0], "report recipe", "report recipe N"); s != EXIT_DONE) return s;
   request = recipeReportRequest(editor);
   return EXIT_DONE;
 }

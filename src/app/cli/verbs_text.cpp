@@ -18,19 +18,10 @@
 namespace zy::cli {
 namespace {
 
-void loadProgramTables(Workbench& wb) {
-  LoadBeerStyles(wb);
-  LoadHopsUtilization(wb.hops, wb.settings);
-}
-
 int verbInstructions(Context& c) {
-  long n;
-  if (c.args.size() != 1 || !parseWhole(c.args[0], n) || n < 1 || n > 32767) return c.usage("instructions N");
-  if (!requireStoredRecipe(c, "instructions", n)) return EXIT_REPORTED;
-  loadProgramTables(c.wb);
+  if (c.args.size() != 1) return c.usage("instructions N");
   RecipeEditor editor(c.wb);
-  editor.initRecipeForm();
-  if (!editor.openRecipe(n)) return EXIT_REPORTED;
+  if (int s = openStoredRecipe(c, editor, c.args[0], "instructions", "instructions N"); s != EXIT_DONE) return s;
   const std::string text = generateSmartInstructions(editor);
   if (!text.empty()) c.line(replaceAll(text, "\r\n", "\n"));
   return EXIT_DONE;
