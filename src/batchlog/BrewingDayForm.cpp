@@ -5,21 +5,12 @@
 #include "core/text.h"
 #include "recipes/RecipeCalculations.h"
 #include "recipes/RecipeRecords.h"
+#include "recipes/RecipeReport.h"
 #include "reports/ReportLayout.h"
 
 namespace zy {
 
 namespace {
-
-// The name of a mash rest by its temperature, read in degrees Fahrenheit whatever the recipe's
-// scale, as the printed recipe names its steps.
-std::string restName(double temp) {
-  if (temp < 90) return "Dough In";
-  if (temp < 110) return "Acid Rest";
-  if (temp < 135) return "Protein Rest";
-  if (temp < 165) return "Saccharification Rest";
-  return "Mash Out";
-}
 
 constexpr double kIndent = 1.0;
 // A blank to write on is this long, unless the line ends first.
@@ -98,7 +89,7 @@ void printMash(Report& r, const RecipeRecord& rec) {
     if (!any) printColumnHeads(r, cols);
     any = true;
     if (r.ensureRoom(1.6, "Mash")) printColumnHeads(r, cols);
-    printColumnCells(r, cols, {restName(rec.mashStepTemp[i]), formatNumber(rec.mashStepTemp[i], "0"),
+    printColumnCells(r, cols, {mashRestName(rec.mashStepTemp[i]), formatNumber(rec.mashStepTemp[i], "0"),
                                formatNumber(rec.mashStepTime[i], "0")});
     const double base = r.y + r.lineHeight() * 0.9;
     for (auto [from, to] : {std::pair{4.3, 5.35}, std::pair{5.55, 6.45}, std::pair{6.65, 7.65}})

@@ -8,6 +8,7 @@
 #include "core/numfmt.h"
 #include "core/records.h"
 #include "core/text.h"
+#include "recipes/RecipeReport.h"
 
 namespace zy {
 
@@ -52,16 +53,6 @@ double recipeCost(const CurrentRecipe& r) {
   const int n = r.rec.itemCount < 0 ? 0 : (r.rec.itemCount > kMaxRecipeItems ? kMaxRecipeItems : r.rec.itemCount);
   for (int i = 0; i < n; ++i) sum += r.items[static_cast<size_t>(i)].quantity * r.items[static_cast<size_t>(i)].unitCost;
   return sum;
-}
-
-// A rest of the mash named by its temperature as stored. The bounds are degrees Fahrenheit, and
-// a Celsius recipe's steps are named by the same numbers.
-const char* restName(double temp) {
-  if (temp < 90) return "Dough In";
-  if (temp < 110) return "Acid Rest";
-  if (temp < 135) return "Protein Rest";
-  if (temp < 165) return "Saccharification Rest";
-  return "Mash Out";
 }
 
 void ingredientRow(Page& p, const RecipeItemRecord& it) {
@@ -111,7 +102,7 @@ void mashPart(Page& p, CurrentRecipe& r, int maltUnits) {
   p.line("<TR><TH>Mash Schedule<TH>Mash<BR>Temperature<BR>(" + scale + ") <TH>Mash Time<BR>(Minutes)<BR>");
   for (size_t i = 0; i < rec.mashStepTime.size(); ++i) {
     if (!(rec.mashStepTime[i] > 0)) continue;
-    p.line(std::string("<TR ALIGN=center><TD ALIGN=left>") + restName(rec.mashStepTemp[i]) + "<TD>" +
+    p.line(std::string("<TR ALIGN=center><TD ALIGN=left>") + mashRestName(rec.mashStepTemp[i]) + "<TD>" +
            printedNumber(rec.mashStepTemp[i]) + "<TD>" + printedNumber(rec.mashStepTime[i]) + "<BR>");
   }
   p.line("</TABLE>");
