@@ -85,12 +85,10 @@ TEST_F(KeysTest, TabFollowsTheScreenLeftToRightTopToBottom) {
   dlgBeerStyleEdit edit(*b.wb, styles, -1, styles.newStyleForm(0), &recipe());
   dlgBeerCategories categories(*b.wb, styles, &recipe());
   recipe().selectGridRow(1);
-  const std::vector<std::pair<QWidget*, size_t>> windows = {  // a window and its count of stops
-      {&recipe(), 22},            {&w.scale(), 6},        {&w.fermentation(), 18}, {&w.comments(), 4},
-      {&w.hopsUtilization(), 13}, {&w.unitMashData(), 8}, {&w.styleMatch(), 3},    {&filter, 8},
-      {&w.beerStyles(), 6},       {&edit, 17},            {&categories, 8},
-  };
-  for (const auto& [win, stops] : windows) {
+  const std::vector<QWidget*> windows = {&recipe(), &w.scale(), &w.fermentation(), &w.comments(),
+                                         &w.hopsUtilization(), &w.unitMashData(), &w.styleMatch(), &filter,
+                                         &w.beerStyles(), &edit, &categories};
+  for (QWidget* win : windows) {
     win->show();
     QApplication::processEvents();
     QWidget* at = win->nextInFocusChain();
@@ -104,6 +102,16 @@ TEST_F(KeysTest, TabFollowsTheScreenLeftToRightTopToBottom) {
       if (!next || std::find(chain.begin(), chain.end(), next) != chain.end()) break;
       chain.push_back(next);
     }
+    // Every control a person can reach is on the way round.
+    size_t stops = 0;
+    for (QWidget* c : win->findChildren<QWidget*>())
+      if (c->window() == win && c->isVisible() && c->isEnabled() && (c->focusPolicy() & Qt::TabFocus) &&
+          !c->focusProxy()) {
+        ++stops;
+        EXPECT_NE(std::find(chain.begin(), chain.end(), c), chain.end())
+            << win->objectName().toStdString() << ": Tab never reaches " << c->objectName().toStdString() << " ("
+            << c->metaObject()->className() << ")";
+      }
     EXPECT_EQ(chain.size(), stops) << win->objectName().toStdString();
     for (size_t i = 1; i < chain.size(); ++i) {
       QWidget *pa = frameOf(chain[i - 1]), *pb = frameOf(chain[i]);
