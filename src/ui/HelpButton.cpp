@@ -1,15 +1,28 @@
 #include "ui/HelpButton.h"
 
 #include <QApplication>
+#include <QMenu>
+#include <QMenuBar>
 #include <QKeySequence>
 #include <QPushButton>
 #include <QShortcut>
 
 #include "ui/QtPrompter.h"
+#include "ui/TopicIcons.h"
 #include "ui/frmHelp.h"
 #include "workbench/Workbench.h"
 
 namespace zy {
+
+HelpMenu addHelpMenu(QMenuBar* bar, QWidget* owner, std::function<void()> contents, std::function<void(int)> help) {
+  QMenu* menu = bar->addMenu("&Help");
+  HelpMenu m;
+  m.contents = menu->addAction(toolIcon(ToolIcon::Help), "&Contents", owner, contents);
+  m.contents->setShortcut(QKeySequence::HelpContents);
+  m.index = menu->addAction("&Index...", owner, [help] { help(1); });
+  m.search = menu->addAction("&Search For Help On...", owner, [help] { help(2); });
+  return m;
+}
 
 void showHelpPage(QWidget* from, const Workbench& wb, const QString& target) {
   frmHelp* help = nullptr;

@@ -5,6 +5,8 @@
 #include <QString>
 #include <functional>
 
+class QAction;
+class QMenuBar;
 class QPushButton;
 class QWidget;
 
@@ -23,5 +25,15 @@ void showHelpPage(QWidget* from, const Workbench& wb, const HelpOpener& opener, 
 // Makes the button on `dialog` and binds F1 to it; `opener` is read when pressed, so it may be
 // set after the dialog is made. The button is disabled with a tip while no opener is set.
 QPushButton* makeHelpButton(QWidget& dialog, const HelpOpener& opener, const QString& page);
+
+// The "&Help" menu of a recipe window: "&Contents" (F1) runs `contents`, the window's own page;
+// "&Index..." and "&Search For Help On..." run `help` with 1 and 2. Both are run when chosen, so
+// they may read ports set after the menu is made.
+struct HelpMenu {
+  QAction* contents;
+  QAction* index;
+  QAction* search;
+};
+HelpMenu addHelpMenu(QMenuBar* bar, QWidget* owner, std::function<void()> contents, std::function<void(int)> help);
 
 }  // namespace zy

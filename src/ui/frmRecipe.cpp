@@ -22,6 +22,7 @@
 
 #include "core/measures.h"
 #include "ui/QtPrompter.h"
+#include "ui/HelpButton.h"
 #include "ui/RecipeIcons.h"
 #include "ui/TopicIcons.h"
 #include "ui/WindowPlacement.h"
@@ -255,17 +256,12 @@ void frmRecipe::buildMenus() {
   mnuViewBeerStyles = toolAction(RecipeTool::BeerStyles, view, "&Beer Styles");
   mnuViewBeerStyles->setIcon(toolIcon(ToolIcon::Styles));
 
-  QMenu* help = menuBar()->addMenu("&Help");
-  mnuHelpContents = help->addAction(toolIcon(ToolIcon::Help), "&Contents", this, [this] {
-    if (showHelpTopic) showHelpTopic(kHelpPage);
-  });
-  mnuHelpContents->setShortcut(QKeySequence::HelpContents);
-  mnuHelpIndex = help->addAction("&Index...", this, [this] {
-    if (showHelp) showHelp(1);
-  });
-  mnuHelpSearch = help->addAction("&Search For Help On...", this, [this] {
-    if (showHelp) showHelp(2);
-  });
+  const HelpMenu help = addHelpMenu(
+      menuBar(), this, [this] { if (showHelpTopic) showHelpTopic(kHelpPage); },
+      [this](int which) { if (showHelp) showHelp(which); });
+  mnuHelpContents = help.contents;
+  mnuHelpIndex = help.index;
+  mnuHelpSearch = help.search;
 
   // The grid's pop-up.
   mnuSort = new QMenu("Recipe Sort", this);

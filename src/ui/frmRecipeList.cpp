@@ -17,6 +17,7 @@
 #include "ui/QtPrompter.h"
 #include "ui/ReportActions.h"
 #include "recipes/RecipeListReport.h"
+#include "ui/HelpButton.h"
 #include "ui/RecipeIcons.h"
 #include "ui/TopicIcons.h"
 #include "ui/frmFind.h"
@@ -154,17 +155,12 @@ void frmRecipeList::buildMenus() {
   mnuSortLogCount->setCheckable(true);
   setTip(mnuSortLogCount, "Show after each recipe how many batch logs it has");
 
-  QMenu* help = menuBar()->addMenu("&Help");
-  mnuHelpContents = help->addAction(toolIcon(ToolIcon::Help), "&Contents", this, [this] {
-    if (showHelpTopic) showHelpTopic(kHelpPage);
-  });
-  mnuHelpContents->setShortcut(QKeySequence::HelpContents);
-  mnuHelpIndex = help->addAction("&Index...", this, [this] {
-    if (showHelp) showHelp(1);
-  });
-  mnuHelpSearch = help->addAction("&Search For Help On...", this, [this] {
-    if (showHelp) showHelp(2);
-  });
+  const HelpMenu help = addHelpMenu(
+      menuBar(), this, [this] { if (showHelpTopic) showHelpTopic(kHelpPage); },
+      [this](int which) { if (showHelp) showHelp(which); });
+  mnuHelpContents = help.contents;
+  mnuHelpIndex = help.index;
+  mnuHelpSearch = help.search;
 }
 
 void frmRecipeList::buildToolbar() {
