@@ -1,4 +1,5 @@
 #include "ui/RecipeIcons.h"
+#include "ui/TopicIcons.h"
 
 #include <QMap>
 #include <QPainter>
@@ -18,21 +19,7 @@ namespace {
 
 using Draw = std::function<void(QPainter&)>;
 
-// Drawn on a 32 by 32 grid, rendered at the sizes a view asks for.
-QIcon render(const Draw& draw) {
-  QIcon icon;
-  for (int size : {16, 24, 32, 48}) {
-    QPixmap pm(size, size);
-    pm.fill(Qt::transparent);
-    QPainter p(&pm);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.scale(size / 32.0, size / 32.0);
-    draw(p);
-    p.end();
-    icon.addPixmap(pm);
-  }
-  return icon;
-}
+QIcon render(const Draw& draw) { return renderIcon(draw); }
 
 const QColor kInk(50, 45, 40);
 

@@ -6,12 +6,7 @@
 
 namespace zy {
 
-namespace {
-
-using Painter = void (*)(QPainter&);
-
-// Every picture is drawn on a 32 by 32 grid and rendered at the sizes a view asks for.
-QIcon render(Painter draw) {
+QIcon renderIcon(const std::function<void(QPainter&)>& draw) {
   QIcon icon;
   for (int size : {16, 24, 32, 48, 64}) {
     QPixmap pm(size, size);
@@ -25,6 +20,10 @@ QIcon render(Painter draw) {
   }
   return icon;
 }
+
+namespace {
+
+QIcon render(void (*draw)(QPainter&)) { return renderIcon(draw); }
 
 const QColor kInk(60, 45, 30);
 

@@ -3,6 +3,9 @@
 // toolbar.
 #include <QIcon>
 #include <QString>
+#include <functional>
+
+class QPainter;
 
 #include "reference/ReferenceBrowser.h"
 
@@ -14,6 +17,9 @@ QIcon topicIcon(const QString& key);
 
 enum class ToolIcon { Print, Recipes, Inventory, Styles, Shopping, Help, Back, Forward, Search, Clear, Refresh };
 QIcon toolIcon(ToolIcon which);
+
+// A picture drawn on a 32 by 32 grid, rendered at the sizes a view asks for.
+QIcon renderIcon(const std::function<void(QPainter&)>& draw);
 
 // The program's window icon.
 QIcon programIcon();
