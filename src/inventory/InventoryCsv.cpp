@@ -20,10 +20,11 @@ double moneyField(const std::string& text) {
 }
 
 std::string commentField(const std::string& comment) {
-  // A line holds one record: line breaks become blanks; a double quote would end the field.
-  std::string c = replaceAll(trim(comment), "\r\n", " ");
-  c = replaceAll(replaceAll(c, "\n", " "), "\r", " ");
-  return "\"" + replaceAll(c, "\"", "'") + "\"";
+  // A line holds one record: line breaks become blanks; a double quote would end the field. The
+  // blanks are trimmed after, as the import trims them: a break at either end leaves none behind.
+  std::string c = replaceAll(comment, "\r\n", " ");
+  c = trim(replaceAll(replaceAll(c, "\n", " "), "\r", " "));
+  return c.empty() ? c : "\"" + replaceAll(c, "\"", "'") + "\"";
 }
 
 std::string defaultPath(const ExchangePorts& p, const char* section, const std::string& name) {
@@ -87,7 +88,7 @@ std::optional<int> exportInventory(const ExchangePorts& p, const InventoryList& 
     std::string line = "zy";
     for (size_t i = 0; i < cols.size(); ++i) {
       const std::string cell = i < row.cells.size() ? row.cells[i] : std::string();
-      if (std::string_view(cols[i].key) == kColComments) line += "," + (trim(cell).empty() ? "" : commentField(cell));
+      if (std::string_view(cols[i].key) == kColComments) line += "," + commentField(cell);
       else line += "," + exportCell(cell);
     }
     text += line + "\r\n";

@@ -134,8 +134,9 @@ TEST(InventoryCsv, OlderFormImportWritesEveryWarningToTheStatusLog) {
 TEST(InventoryCsv, ExportThenReplacingImportInThePresentForm) {
   CsvBench c;
   InventoryList& hops = c.b.wb->inventory.list(INV_HOPS);
-  hops.rows.push_back({"", {"Cascade", "    4.5", "Oz", "$2.25", "5.5", "2024", "1", "2", "fresh, \"leaf\""}});
-  hops.rows.push_back({"", {"Saaz", "   1.25", "Gr", "$1,200.00", "3.0", "", "", "", ""}});
+  // Line breaks in a comment become blanks, and none is left at either end.
+  hops.rows.push_back({"", {"Cascade", "    4.5", "Oz", "$2.25", "5.5", "2024", "1", "2", "\r\nfresh, \"leaf\"\n"}});
+  hops.rows.push_back({"", {"Saaz", "   1.25", "Gr", "$1,200.00", "3.0", "", "", "", "\r\n"}});
   const std::string path = c.b.dir.file("hops.csv");
   EXPECT_EQ(exportInventory(c.p, hops, path), 2);
   EXPECT_EQ(readFile(path),
