@@ -19,12 +19,17 @@ double moneyField(const std::string& text) {
   return lenientValue(replaceAll(t, ",", ""));
 }
 
-std::string commentField(const std::string& comment) {
-  // A line holds one record: line breaks become blanks; a double quote would end the field. The
-  // blanks are trimmed after, as the import trims them: a break at either end leaves none behind.
-  std::string c = replaceAll(comment, "\r\n", " ");
+// Text as a CSV field holds it on its one line: line breaks become blanks and a double quote an
+// apostrophe (it would open or end a quoted field); trimmed after, as the import trims.
+std::string csvFieldText(const std::string& text) {
+  std::string c = replaceAll(text, "\r\n", " ");
   c = trim(replaceAll(replaceAll(c, "\n", " "), "\r", " "));
-  return c.empty() ? c : "\"" + replaceAll(c, "\"", "'") + "\"";
+  return replaceAll(c, "\"", "'");
+}
+
+std::string commentField(const std::string& comment) {
+  const std::string c = csvFieldText(comment);
+  return c.empty() ? c : "\"" + c + "\"";
 }
 
 std::string defaultPath(const ExchangePorts& p, const char* section, const std::string& name) {
@@ -43,8 +48,9 @@ std::string csvFolderOf(const std::string& path) {
 
 std::string exportCell(const std::string& cell) {
   std::string t = trim(cell);
-  if (!t.empty() && t[0] == '$') t = replaceAll(t, ",", "");
-  return t;
+  if (!t.empty() && t[0] == '$') return replaceAll(t, ",", "");
+  // Only the comment, last in the line, is quoted: a comma in any other text would split it.
+  return replaceAll(csvFieldText(t), ",", ";");
 }
 
 CsvLayout olderInventoryLayout(int category) {

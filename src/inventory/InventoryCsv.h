@@ -69,7 +69,8 @@ void addImportedRecord(CsvEngine& engine, InventoryList& list, int fieldCount, c
 // Empties the target of a replacing import; the style methods clear nothing and say so.
 void clearForReplace(Inventory& inventory, int category, int method, StatusLog& status, Prompter& prompter);
 
-// The cell of an exported line: trimmed, money without digit grouping (a comma would split it).
+// The cell of an exported line: trimmed, money without digit grouping; in text a comma becomes a
+// semicolon, a double quote an apostrophe and a line break a blank, as a bare field cannot hold them.
 std::string exportCell(const std::string& cell);
 // The folder part of a path, for "File Path".
 std::string csvFolderOf(const std::string& path);

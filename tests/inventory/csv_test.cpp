@@ -136,15 +136,15 @@ TEST(InventoryCsv, ExportThenReplacingImportInThePresentForm) {
   InventoryList& hops = c.b.wb->inventory.list(INV_HOPS);
   // Line breaks in a comment become blanks, and none is left at either end.
   hops.rows.push_back({"", {"Cascade", "    4.5", "Oz", "$2.25", "5.5", "2024", "1", "2", "\r\nfresh, \"leaf\"\n"}});
-  hops.rows.push_back({"", {"Saaz", "   1.25", "Gr", "$1,200.00", "3.0", "", "", "", "\r\n"}});
+  hops.rows.push_back({"", {"\"Saaz, Czech\"", "   1.25", "Gr", "$1,200.00", "3.0", "", "", "", "\r\n"}});
   const std::string path = c.b.dir.file("hops.csv");
   EXPECT_EQ(exportInventory(c.p, hops, path), 2);
   EXPECT_EQ(readFile(path),
             "Inventory,Hops,Qty,Units,Cost,Alpha %,Vintage,Reorder At,Reorder Qty,Comments\r\n"
             "zy,Cascade,4.5,Oz,$2.25,5.5,2024,1,2,\"fresh, 'leaf'\"\r\n"
-            "zy,Saaz,1.25,Gr,$1200.00,3.0,,,,\r\n");
+            "zy,'Saaz; Czech',1.25,Gr,$1200.00,3.0,,,,\r\n");
   EXPECT_EQ(c.status(), (std::vector<std::string>{"Export Inventory Status Log", "11/22/2026 10:30:00 AM", "",
-                                                  "Exporting to File: " + path, "1) Cascade", "2) Saaz", "",
+                                                  "Exporting to File: " + path, "1) Cascade", "2) \"Saaz, Czech\"", "",
                                                   "2 Records Exported", "No Errors"}));
 
   c.b.prompter.answers = {Answer::Yes};
@@ -154,7 +154,7 @@ TEST(InventoryCsv, ExportThenReplacingImportInThePresentForm) {
   EXPECT_EQ(hops.rows[0].cells,
             (std::vector<std::string>{"Cascade", "    4.5", "Oz", "$2.25", "5.5", "2024", "1.", "2.", "fresh, 'leaf'"}));
   EXPECT_EQ(hops.rows[1].cells,
-            (std::vector<std::string>{"Saaz", "   1.25", "Gr", "$1,200.00", "3.0", "", "", "", ""}));
+            (std::vector<std::string>{"'Saaz; Czech'", "   1.25", "Gr", "$1,200.00", "3.0", "", "", "", ""}));
   EXPECT_EQ(shownLines(c.b.prompter),
             (std::vector<std::string>{
                 "Export Success: Succesfully Exported 2 Records",
