@@ -11,8 +11,8 @@
 namespace zy {
 
 bool PreviewModel::open(const ReportRequest& request) {
-  if (request.number < kInventoryReport || request.number > kBrewingDayForm || !request.draw) {
-    prompter_.message("This Report Not Implemented Yet", "Reports");
+  if (!reportAvailable(request)) {
+    prompter_.message(kReportMissingText, kReportMissingTitle);
     return false;
   }
   request_ = request;

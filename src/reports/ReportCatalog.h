@@ -27,4 +27,12 @@ struct ReportRequest {
   std::function<bool(const std::string& path)> toFile;
 };
 
+// A request the preview and the printer can take: a report number they know, with its procedure.
+// Any other is answered with "This Report Not Implemented Yet" under "Reports".
+inline bool reportAvailable(const ReportRequest& request) {
+  return request.number >= kInventoryReport && request.number <= kBrewingDayForm && request.draw;
+}
+constexpr const char* kReportMissingText = "This Report Not Implemented Yet";
+constexpr const char* kReportMissingTitle = "Reports";
+
 }  // namespace zy

@@ -106,7 +106,7 @@ frmPreview* previewWindow(bool create) {
 void previewReport(QWidget*, ReportRequest request) {
   frmPreview* w = previewWindow();
   if (!w) {
-    prompter().message("This Report Not Implemented Yet", "Reports");
+    prompter().message(kReportMissingText, kReportMissingTitle);
     return;
   }
   if (w->showReport(request)) bringForward(*w);
@@ -114,8 +114,8 @@ void previewReport(QWidget*, ReportRequest request) {
 
 void printReportNow(QWidget* parent, ReportRequest request) {
   Prompter& p = prompter();
-  if (request.number < kInventoryReport || request.number > kBrewingDayForm || !request.draw) {
-    p.message("This Report Not Implemented Yet", "Reports");
+  if (!reportAvailable(request)) {
+    p.message(kReportMissingText, kReportMissingTitle);
     return;
   }
   QPrinter& printer = programPrinter();
